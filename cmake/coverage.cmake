@@ -1,0 +1,7 @@
+if(ZELMODEL_COVERAGE)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        message(FATAL_ERROR "ZELMODEL_COVERAGE needs clang++.")
+    endif()
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
+endif()

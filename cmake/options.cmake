@@ -1,0 +1,5 @@
+option(ZELMODEL_WERROR "Treat compiler warnings as errors" OFF)
+option(ZELMODEL_BUILD_TESTS "Build the tests" ON)
+option(ZELMODEL_BUILD_BENCH "Build the benchmarks" OFF)
+option(ZELMODEL_COVERAGE "Instrument for llvm-cov (clang only)" OFF)
+set(ZELMODEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")

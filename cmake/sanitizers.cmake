@@ -1,0 +1,7 @@
+if(ZELMODEL_SANITIZE)
+    string(REPLACE ";" "," sanitizers "${ZELMODEL_SANITIZE}")
+    add_compile_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${sanitizers})
+else()
+    add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:-Wl,-z,defs>)
+endif()

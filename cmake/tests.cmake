@@ -1,0 +1,41 @@
+include(GoogleTest)
+
+# Everything the test binaries share: the helpers of tests/support, the folders with documents, the precompiled header.
+function(zel_add_test_support)
+    file(GLOB sources CONFIGURE_DEPENDS support/*.cpp)
+    if(NOT sources)
+        file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/support.cpp CONTENT "#include <gtest/gtest.h>\n")
+        set(sources ${CMAKE_CURRENT_BINARY_DIR}/support.cpp)
+    endif()
+    add_library(test_support STATIC ${sources})
+    target_include_directories(test_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/model)
+    target_compile_definitions(test_support PUBLIC
+        ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
+        ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
+        ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
+    target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog)
+    target_precompile_headers(test_support PRIVATE <gtest/gtest.h>)
+    zel_enable_warnings(test_support)
+endfunction()
+
+# One binary for a folder: tests/a/b gives a_b_tests. Where processes start slowly, one ctest entry runs it whole.
+function(zel_add_test_folder folder)
+    file(RELATIVE_PATH name ${CMAKE_CURRENT_SOURCE_DIR} ${folder})
+    string(REPLACE "/" "_" name ${name}_tests)
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE test_support GTest::gtest_main)
+    target_precompile_headers(${name} REUSE_FROM test_support)
+    if(TARGET zelmodel_describe)
+        target_link_libraries(${name} PRIVATE zelmodel_describe)
+    endif()
+    if(TARGET zelmodel)
+        add_dependencies(${name} zelmodel)
+    endif()
+    zel_enable_warnings(${name})
+    if(ZELMODEL_SANITIZE OR ZELMODEL_COVERAGE)
+        add_test(NAME ${name} COMMAND ${name})
+    else()
+        gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX ${name}.)
+    endif()
+endfunction()

@@ -1,0 +1,13 @@
+#pragma once
+
+/// The log of the library.
+/// Everything that the library notes goes to the one section "zelmodel": what it read in spite of a fault and what it
+/// skipped. Failures themselves are thrown and not logged. Where entries end up is decided by logging::set_sink;
+/// without a sink they are dropped.
+
+#include <zelmodel/export.h>
+
+#include <zelplatform/logging/logging.h>
+
+/// The section "zelmodel".
+extern ZELMODEL_API logging::log_section_t zelmodel_log;

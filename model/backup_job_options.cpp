@@ -1,0 +1,64 @@
+#include <zelmodel/backup_job_options.h>
+
+#include <zelplatform/exc/exc.h>
+
+namespace zelplatform::model
+{
+namespace
+{
+
+constexpr unsigned long FirstCountTooLarge = 731;
+constexpr unsigned long DefaultCount = 7;
+constexpr unsigned long DefaultRetryTimeoutMs = 600000;
+
+} // namespace
+
+SBackupJobOptions::SBackupJobOptions(KbBlockSize::type size)
+{
+    retentionType = ERetentionType::Days;
+    maxPoints = DefaultCount;
+    maxDays = DefaultCount;
+    setDefault();
+    blockSize = size;
+}
+
+void SBackupJobOptions::setDefault()
+{
+    compression = BackupJobCompression::Default;
+    blockSize = KbBlockSize::KbBlockSize1024;
+    dedupEnabled = true;
+    retryCount = 0;
+    retryTimeoutMs = DefaultRetryTimeoutMs;
+    schedule.ResetBoth();
+    snapshotMode = ESnapshotMode::GetDefault();
+}
+
+void SBackupJobOptions::verifyMaxPoints(unsigned long count)
+{
+    if (count == 0)
+        throw exc::CRuntimeExc("Number of restore points to keep on disk should be greater than 0.");
+    if (count >= FirstCountTooLarge)
+        throw exc::CRuntimeExc("Number of restore points to keep on disk should be less than 731.");
+}
+
+void SBackupJobOptions::setMaxPoints(unsigned long count)
+{
+    verifyMaxPoints(count);
+    maxPoints = count;
+}
+
+void SBackupJobOptions::verifyMaxDays(unsigned long count)
+{
+    if (count == 0)
+        throw exc::CRuntimeExc("Number of days for daily retention must be greater than 0.");
+    if (count >= FirstCountTooLarge)
+        throw exc::CRuntimeExc("Number of days for daily retention must be less than 731.");
+}
+
+void SBackupJobOptions::setMaxDays(unsigned long count)
+{
+    verifyMaxDays(count);
+    maxDays = count;
+}
+
+} // namespace zelplatform::model

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <zelmodel/datetime/date_time_ex.h>
+#include <zelmodel/export.h>
+
+namespace zelplatform::model
+{
+
+/// The clock that answers which moment it is, so that a caller decides what "today" means.
+class ZELMODEL_API ITimeManager
+{
+public:
+    virtual ~ITimeManager();
+
+    virtual CDateTimeEx GetCurrentTime() const = 0;
+};
+
+} // namespace zelplatform::model

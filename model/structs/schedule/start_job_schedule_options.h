@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <zelmodel/export.h>
+#include <zelmodel/structs/schedule/schedule_calendar.h>
+#include <zelplatform/datetime/date_time.h>
+#include <zelplatform/io/io.h>
+#include <zelplatform/xmlpp/xml_node.h>
+
+namespace zelplatform::model::structs
+{
+
+/// Whether a job starts by itself, and when. Every schedule setter turns the options on once it has succeeded.
+class ZELMODEL_API CStartJobScheduleOptions
+{
+public:
+    /// The version that ToXml writes.
+    static constexpr unsigned long s_version = 3;
+
+    /// Disabled, every day at 00:30.
+    CStartJobScheduleOptions();
+
+    /// The flag and, when given, the calendar; without one the calendar is its own default, the first Monday of every
+    /// month.
+    CStartJobScheduleOptions(bool enabled, const std::optional<CScheduleCalendar>& calendar);
+
+    /// Hours and minutes are checked by the calendar. The failures begin with "CStartJobScheduleOptions: Failed set".
+    void SetWeekly(std::uint8_t hours, std::uint8_t minutes, const CWeekMask& weekMask);
+    void SetMonthly(std::uint8_t hours, std::uint8_t minutes, EWeekDayNumber::type weekDayNumber,
+                    datetime::EDayOfWeek::type dayOfWeek, const CMonthMask& monthMask);
+    void SetMonthlyOnDay(std::uint8_t hours, std::uint8_t minutes, const CDayOfMonth& dayOfMonth,
+                         const CMonthMask& monthMask);
+
+    /// The length of the period; 0:00 is stored as 24:00.
+    void SetPeriodically(std::uint8_t hours, std::uint8_t minutes);
+    void SetContinuously();
+
+    /// Every day at 00:30.
+    void SetDefaultWeekly();
+
+    /// Stores the day, then the week-day number Every. For a calendar that is not monthly the second step fails and the
+    /// day stays changed, on purpose.
+    void SetDayOfMonth(unsigned long day);
+    void SetDayOfMonthLast();
+
+    void SetWeekDayNumber(EWeekDayNumber::type weekDayNumber);
+    void ResetWeekDayNumber();
+
+    /// SetDefaultWeekly, then disabled.
+    void Reset();
+
+    void SetEnabled(bool enabled) noexcept { m_isEnabled = enabled; }
+    void Enable() noexcept { m_isEnabled = true; }
+    void Disable() noexcept { m_isEnabled = false; }
+    bool IsEnabled() const noexcept { return m_isEnabled; }
+    bool IsDisabled() const noexcept { return !m_isEnabled; }
+
+    const CScheduleCalendar& GetCalendar() const noexcept { return m_calendar; }
+    CScheduleCalendar& GetCalendar() noexcept { return m_calendar; }
+    const CScheduleTime& GetTime() const { return m_calendar.GetTime(); }
+    const CWeekMask& GetWeekMask() const noexcept { return m_calendar.GetWeekMask(); }
+    const CMonthMask& GetMonthMask() const noexcept { return m_calendar.GetMonthMask(); }
+    const CDayOfMonth& GetDayOfMonth() const noexcept { return m_calendar.GetDayOfMonth(); }
+    EWeekDayNumber::type GetWeekDayNumber() const noexcept { return m_calendar.GetWeekDayNumber(); }
+    EScheduleType::type GetScheduleType() const noexcept { return m_calendar.GetScheduleType(); }
+    bool IsScheduleWeekly() const noexcept { return m_calendar.IsScheduleWeekly(); }
+    bool IsScheduleMonthly() const noexcept { return m_calendar.IsScheduleMonthly(); }
+    bool IsSchedulePeriodically() const noexcept { return m_calendar.IsSchedulePeriodically(); }
+
+    /// True for monthly, periodical and continuous calendars; a weekly one is no server schedule, on purpose.
+    bool IsServerSchedule() const noexcept;
+
+    /// False when disabled, else the calendar's answer for the date.
+    bool IsScheduledAt(const datetime::CDateTime& date) const;
+
+    friend bool operator==(const CStartJobScheduleOptions& a, const CStartJobScheduleOptions& b)
+    {
+        return a.m_isEnabled == b.m_isEnabled && a.m_calendar == b.m_calendar;
+    }
+    friend bool operator!=(const CStartJobScheduleOptions& a, const CStartJobScheduleOptions& b) { return !(a == b); }
+
+    std::string ToLogStr(bool shortNames) const;
+
+    /// Adds the child "Schedule". Throws "CStartJobScheduleOptions: Failed to serialize to Xml. ...".
+    void ToXml(xmlpp::CXmlNode& parent) const;
+
+    /// Reads the child "Schedule" in the current layout (versions 0 and 3) or an older one (no version, 1 and 2); a parent
+    /// without the child gives the default. Throws "CStartJobScheduleOptions: Failed to deserialize from Xml. ...".
+    static CStartJobScheduleOptions FromXml(const xmlpp::CXmlNode& parent);
+
+    /// Writes a 4-byte length and the XML text with "Schedule" at its top.
+    void Serialize(io::binary_stream_tt& stream) const;
+
+    /// Reads what Serialize writes.
+    static CStartJobScheduleOptions Unserialize(io::binary_stream_tt& stream);
+
+private:
+    bool m_isEnabled;
+    CScheduleCalendar m_calendar;
+};
+
+} // namespace zelplatform::model::structs

@@ -1,0 +1,3 @@
+#include <zelmodel/log.h>
+
+logging::log_section_t zelmodel_log("zelmodel");

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Memory for key material.
+#include <zelplatform/crypto/sec_buffer.h>

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include <zelplatform/util/memory.h>
+
+namespace crypto
+{
+
+/// An allocator that erases every block before it gives it back. All objects of it are equal.
+template <class T>
+class sec_allocator_t
+{
+public:
+    using value_type = T;
+
+    sec_allocator_t() noexcept = default;
+
+    template <class U>
+    sec_allocator_t(const sec_allocator_t<U>&) noexcept
+    {
+    }
+
+    T* allocate(std::size_t count) { return std::allocator<T>().allocate(count); }
+
+    void deallocate(T* block, std::size_t count) noexcept
+    {
+        util::SecureErase(block, count * sizeof(T));
+        std::allocator<T>().deallocate(block, count);
+    }
+};
+
+template <class T, class U>
+bool operator==(const sec_allocator_t<T>&, const sec_allocator_t<U>&) noexcept
+{
+    return true;
+}
+
+template <class T, class U>
+bool operator!=(const sec_allocator_t<T>&, const sec_allocator_t<U>&) noexcept
+{
+    return false;
+}
+
+/// Bytes that are erased when they are released.
+using sec_buffer_t = std::vector<char, sec_allocator_t<char>>;
+
+} // namespace crypto

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <zelplatform/datetime/clock.h>
+#include <zelplatform/datetime/date_time.h>
+#include <zelplatform/datetime/names.h>
+#include <zelplatform/datetime/time_span.h>

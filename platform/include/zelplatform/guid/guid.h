@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include <zelplatform/export.h>
+
+/// 128-bit identifiers.
+namespace guid
+{
+
+/// A 128-bit identifier, all zero by default. Identifiers are ordered as their texts are.
+class ZELPLATFORM_API guid_t
+{
+public:
+    guid_t() = default;
+
+    /// A fresh random identifier (version 4); throws when the system gives no random bytes.
+    static guid_t CreateNew();
+
+    /// Reads 8-4-4-4-12 hexadecimal digits in any letter case, with or without a pair of braces around. The empty text
+    /// is the zero identifier. Anything else throws.
+    static guid_t FromAStr(std::string_view text);
+
+    /// Whether all bits are zero.
+    bool IsEmpty() const noexcept { return *this == guid_t(); }
+
+    /// 36 characters: lower-case digits and hyphens, no braces.
+    std::string ToAStr() const;
+
+    friend bool operator==(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes == b.m_bytes; }
+    friend bool operator!=(const guid_t& a, const guid_t& b) noexcept { return !(a == b); }
+    friend bool operator<(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes < b.m_bytes; }
+
+private:
+    std::array<std::uint8_t, 16> m_bytes{};
+};
+
+} // namespace guid

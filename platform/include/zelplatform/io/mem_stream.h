@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+
+#include <zelplatform/crypto/sec_buffer.h>
+#include <zelplatform/export.h>
+#include <zelplatform/io/device.h>
+
+namespace io
+{
+
+/// A device in secure memory: writing appends at the end, reading takes from the front. A read past the end gives the
+/// bytes that are left.
+class ZELPLATFORM_API mem_stream_tt : public io_dev_redirector_t
+{
+public:
+    mem_stream_tt();
+    explicit mem_stream_tt(crypto::sec_buffer_t bytes) noexcept;
+    ~mem_stream_tt() override;
+
+    long write(const void* data, unsigned long size) override;
+    long read(void* data, unsigned long size) override;
+    long remaining() const override;
+
+    /// All bytes, those already read included.
+    const crypto::sec_buffer_t& buffer() const noexcept { return m_bytes; }
+
+private:
+    crypto::sec_buffer_t m_bytes;
+    std::size_t m_position = 0;
+};
+
+} // namespace io

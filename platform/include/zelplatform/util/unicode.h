@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include <zelplatform/export.h>
+
+class CUniString;
+
+/// A text in UTF-8. Its bytes are not checked until they are converted.
+class ZELPLATFORM_API CUtf8String
+{
+public:
+    CUtf8String() = default;
+    CUtf8String(std::string text) : m_text(std::move(text)) {}
+    CUtf8String(const char* text) : m_text(text) {}
+
+    /// Throws when a character is a surrogate or above U+10FFFF.
+    static CUtf8String FromWide(const CUniString& text);
+
+    const std::string& str() const noexcept { return m_text; }
+
+    friend bool operator==(const CUtf8String& a, const CUtf8String& b) noexcept { return a.m_text == b.m_text; }
+    friend bool operator!=(const CUtf8String& a, const CUtf8String& b) noexcept { return !(a == b); }
+    friend bool operator<(const CUtf8String& a, const CUtf8String& b) noexcept { return a.m_text < b.m_text; }
+
+private:
+    std::string m_text;
+};
+
+/// A text of wide characters, one for each code point. They are not checked until they are converted.
+class ZELPLATFORM_API CUniString
+{
+public:
+    CUniString() = default;
+    explicit CUniString(std::wstring text) : m_text(std::move(text)) {}
+
+    /// Throws on bytes that are not well-formed UTF-8: cut or overlong sequences, surrogates, values above U+10FFFF.
+    static CUniString FromUtf8(const CUtf8String& text);
+
+    const std::wstring& str() const noexcept { return m_text; }
+
+    friend bool operator==(const CUniString& a, const CUniString& b) noexcept { return a.m_text == b.m_text; }
+    friend bool operator!=(const CUniString& a, const CUniString& b) noexcept { return !(a == b); }
+    friend bool operator<(const CUniString& a, const CUniString& b) noexcept { return a.m_text < b.m_text; }
+
+private:
+    std::wstring m_text;
+};

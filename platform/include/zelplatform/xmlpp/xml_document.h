@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <zelplatform/export.h>
+#include <zelplatform/xmlpp/xml_node.h>
+
+namespace xmlpp
+{
+
+/// An XML document. Several top-level elements may stand side by side: binary forms carry such documents.
+class ZELPLATFORM_API CXmlDocument
+{
+public:
+    /// The longest text that is read, in bytes.
+    static constexpr std::size_t MaxTextSize = 256UL * 1024 * 1024;
+
+    /// The most attributes that one element of a text may have.
+    static constexpr unsigned MaxAttributes = 1024;
+
+    /// An empty document.
+    CXmlDocument();
+
+    /// Reads a text. Refused with "Unable to parse XML at line %2: [%1].": malformed text, text without an element or
+    /// with text at the top, one that is too large, too deep (98 levels are the most) or has too many attributes on an
+    /// element, a NUL byte, a malformed character reference or one to a character that XML does not have, and a
+    /// declared encoding other than UTF-8 and US-ASCII. Bytes that are no UTF-8 pass unchanged.
+    static CXmlDocument Unserialize(const std::string& text);
+
+    /// The document as text; with the flag an XML declaration comes first. No white space is added. Line breaks and
+    /// tabs in values are written as references, so that they read back unchanged.
+    std::string Serialize(bool withDeclaration = false) const;
+
+    CXmlNode AddRootNode(CXmlName name);
+
+    /// The first top-level element; throws when there is none.
+    CXmlNode GetRootNode() const;
+
+    /// The first top-level element, which must have the name: "Root node [%1] is not found.".
+    CXmlNode GetRootNode(CXmlName name) const;
+
+    /// The document itself, as the parent of its top-level elements.
+    CXmlNode ToNode() const;
+
+    /// The line of the element or attribute that a getter of this document touched last; 0 when none was.
+    int LastReadLine() const;
+
+private:
+    explicit CXmlDocument(std::shared_ptr<tinyxml2::XMLDocument> document) noexcept;
+
+    std::shared_ptr<tinyxml2::XMLDocument> m_document;
+};
+
+} // namespace xmlpp

@@ -1,0 +1,192 @@
+#include <zelplatform/datetime/date_time.h>
+
+#include <limits>
+
+#include <boost/date_time/gregorian/gregorian_types.hpp>
+
+#include <zelplatform/datetime/clock.h>
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
+
+namespace datetime
+{
+namespace
+{
+
+using boost::gregorian::date;
+using boost::gregorian::gregorian_calendar;
+
+constexpr long SecondsOfDay = 86400;
+constexpr long FirstSecond = -17987443200; // 1400-01-01 00:00:00
+constexpr long LastSecond = 253402300799;  // 9999-12-31 23:59:59
+constexpr long EpochDayNumber = 2440588;   // 1970-01-01 as the calendar counts days
+
+long daysOf(long seconds) noexcept
+{
+    const long days = seconds / SecondsOfDay;
+    return seconds % SecondsOfDay < 0 ? days - 1 : days;
+}
+
+long timeOfDay(long seconds) noexcept
+{
+    return seconds - daysOf(seconds) * SecondsOfDay;
+}
+
+gregorian_calendar::ymd_type ymdOf(long seconds)
+{
+    return gregorian_calendar::from_day_number(
+        static_cast<gregorian_calendar::date_int_type>(daysOf(seconds) + EpochDayNumber));
+}
+
+// A number that does not fit becomes 0, which is no year, month or day: the calendar then refuses it in its own words.
+unsigned short calendarField(int value) noexcept
+{
+    return value < 0 || value > std::numeric_limits<unsigned short>::max() ? static_cast<unsigned short>(0)
+                                                                           : static_cast<unsigned short>(value);
+}
+
+void checkClock(int value, int last, const char* message)
+{
+    if (value < 0 || value > last)
+        throw exc::CRuntimeExc(message, util::toStr(value));
+}
+
+} // namespace
+
+CDateTime::CDateTime(long unixSeconds, bool isUtc) : m_seconds(unixSeconds), m_isUtc(isUtc)
+{
+    if (unixSeconds < FirstSecond || unixSeconds > LastSecond)
+        throw exc::CRuntimeExc("Date-time of [%1] seconds is out of range.", util::toStr(unixSeconds));
+}
+
+CDateTime CDateTime::currentUtcTime()
+{
+    return CDateTime(clock_now(), true);
+}
+
+CDateTime CDateTime::currentLocalTime()
+{
+    return CDateTime(clock_now() + clock_local_offset(), false);
+}
+
+long CDateTime::localUtcOffsetSecs()
+{
+    return clock_local_offset();
+}
+
+void CDateTime::setTime(int hours, int minutes, int seconds)
+{
+    checkClock(hours, 23, "Hour [%1] is out of range.");
+    checkClock(minutes, 59, "Minute [%1] is out of range.");
+    checkClock(seconds, 59, "Second [%1] is out of range.");
+    m_seconds = daysOf(m_seconds) * SecondsOfDay + hours * 3600L + minutes * 60L + seconds;
+}
+
+void CDateTime::setDate(int year, int month, int day)
+{
+    const date newDate(calendarField(year), calendarField(month), calendarField(day));
+    m_seconds = (static_cast<long>(newDate.day_number()) - EpochDayNumber) * SecondsOfDay + timeOfDay(m_seconds);
+}
+
+void CDateTime::setYear(int year)
+{
+    const auto ymd = ymdOf(m_seconds);
+    setDate(year, ymd.month, ymd.day);
+}
+
+void CDateTime::setMonth(int month)
+{
+    const auto ymd = ymdOf(m_seconds);
+    setDate(ymd.year, month, ymd.day);
+}
+
+void CDateTime::setDay(int day)
+{
+    const auto ymd = ymdOf(m_seconds);
+    setDate(ymd.year, ymd.month, day);
+}
+
+void CDateTime::setHours(int hours)
+{
+    setTime(hours, minute(), second());
+}
+
+void CDateTime::setMinutes(int minutes)
+{
+    setTime(hour(), minutes, second());
+}
+
+void CDateTime::setSeconds(int seconds)
+{
+    setTime(hour(), minute(), seconds);
+}
+
+void CDateTime::getDate(int& year, int& month, int& day) const
+{
+    const auto ymd = ymdOf(m_seconds);
+    year = ymd.year;
+    month = ymd.month;
+    day = ymd.day;
+}
+
+int CDateTime::year() const
+{
+    return ymdOf(m_seconds).year;
+}
+
+unsigned CDateTime::day() const
+{
+    return ymdOf(m_seconds).day;
+}
+
+int CDateTime::hour() const noexcept
+{
+    return static_cast<int>(timeOfDay(m_seconds) / 3600);
+}
+
+int CDateTime::minute() const noexcept
+{
+    return static_cast<int>(timeOfDay(m_seconds) % 3600 / 60);
+}
+
+int CDateTime::second() const noexcept
+{
+    return static_cast<int>(timeOfDay(m_seconds) % 60);
+}
+
+EMonth::type CDateTime::getMonth() const
+{
+    return static_cast<EMonth::type>(ymdOf(m_seconds).month - 1);
+}
+
+EDayOfWeek::type CDateTime::getDayOfWeek() const noexcept
+{
+    // 1970-01-01 was a Thursday; the shift keeps the dividend positive over the whole range.
+    constexpr long weeksBeforeEpoch = 30000;
+    return static_cast<EDayOfWeek::type>((daysOf(m_seconds) + EDayOfWeek::Thursday + weeksBeforeEpoch * 7) % 7);
+}
+
+unsigned CDateTime::getMonthLastDay() const
+{
+    const auto ymd = ymdOf(m_seconds);
+    return gregorian_calendar::end_of_month_day(ymd.year, ymd.month);
+}
+
+std::vector<unsigned> CDateTime::getMonthDaysByDayOfWeek(EDayOfWeek::type dayOfWeek) const
+{
+    const auto ymd = ymdOf(m_seconds);
+    const unsigned lastDay = gregorian_calendar::end_of_month_day(ymd.year, ymd.month);
+    const int daysAhead = static_cast<int>(dayOfWeek) - static_cast<int>(getDayOfWeek());
+    const int first = ((static_cast<int>(ymd.day) - 1 + daysAhead) % 7 + 7) % 7 + 1;
+    std::vector<unsigned> days;
+    for (unsigned day = static_cast<unsigned>(first); day <= lastDay; day += 7)
+        days.push_back(day);
+    return days;
+}
+
+unsigned long CDateTime::getMonthCurrWeekIndex() const
+{
+    return (day() - 1UL) / 7 + 1;
+}
+
+} // namespace datetime

@@ -1,0 +1,81 @@
+#include <zelplatform/util/unicode.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include <zelplatform/exc/exc.h>
+
+static_assert(sizeof(wchar_t) == 4, "a wide character holds a code point");
+
+namespace
+{
+
+constexpr char32_t LastCodePoint = 0x10FFFF;
+
+bool isCodePoint(char32_t code) noexcept
+{
+    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    return code <= LastCodePoint && !isSurrogate;
+}
+
+/// The lead byte's fixed bits and their mask, and the least code point of sequences of that length.
+struct Form
+{
+    unsigned lead;
+    unsigned mask;
+    char32_t least;
+};
+
+constexpr std::array<Form, 4> Forms{{{0x00, 0x80, 0}, {0xC0, 0xE0, 0x80}, {0xE0, 0xF0, 0x800}, {0xF0, 0xF8, 0x10000}}};
+
+[[noreturn]] void failUtf8()
+{
+    throw exc::CRuntimeExc("Text is not valid UTF-8.");
+}
+
+} // namespace
+
+CUtf8String CUtf8String::FromWide(const CUniString& text)
+{
+    std::string bytes;
+    for (const wchar_t character : text.str())
+    {
+        const auto code = static_cast<char32_t>(character);
+        if (!isCodePoint(code))
+            throw exc::CRuntimeExc("Wide text is not valid Unicode.");
+        const auto form = std::find_if(Forms.rbegin(), Forms.rend(), [&](const Form& f) { return code >= f.least; });
+        auto shift = 6 * static_cast<unsigned>(Forms.rend() - form - 1);
+        bytes += static_cast<char>(form->lead | code >> shift);
+        for (; shift != 0; shift -= 6)
+            bytes += static_cast<char>(0x80U | (code >> (shift - 6) & 0x3FU));
+    }
+    return bytes;
+}
+
+CUniString CUniString::FromUtf8(const CUtf8String& text)
+{
+    const std::string& bytes = text.str();
+    std::wstring characters;
+    for (std::size_t i = 0; i < bytes.size();)
+    {
+        const auto lead = static_cast<unsigned char>(bytes[i]);
+        const auto* const form =
+            std::find_if(Forms.begin(), Forms.end(), [&](const Form& f) { return (lead & f.mask) == f.lead; });
+        const auto end = i + static_cast<std::size_t>(form - Forms.begin()) + 1;
+        if (form == Forms.end() || end > bytes.size())
+            failUtf8();
+        char32_t code = lead & ~form->mask;
+        while (++i < end)
+        {
+            const auto byte = static_cast<unsigned char>(bytes[i]);
+            if ((byte & 0xC0U) != 0x80U)
+                failUtf8();
+            code = code << 6 | (byte & 0x3FU);
+        }
+        if (code < form->least || !isCodePoint(code))
+            failUtf8();
+        characters += static_cast<wchar_t>(code);
+    }
+    return CUniString(std::move(characters));
+}

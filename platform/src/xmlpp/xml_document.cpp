@@ -1,0 +1,101 @@
+#include <zelplatform/xmlpp/xml_document.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include <tinyxml2.h>
+
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
+
+#include "text_checks.h"
+#include "xml_printer.h"
+
+namespace xmlpp
+{
+namespace
+{
+
+[[noreturn]] void refuse(const std::string& reason, long line)
+{
+    throw exc::CRuntimeExc("Unable to parse XML at line %2: [%1].", reason, util::toStr(line));
+}
+
+long lineAt(const std::string& text, std::size_t offset)
+{
+    return 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(offset), '\n');
+}
+
+void checkTopLevel(const tinyxml2::XMLDocument& document)
+{
+    for (const auto* node = document.FirstChild(); node != nullptr; node = node->NextSibling())
+    {
+        if (node->ToText() != nullptr)
+            refuse("text at the top", node->GetLineNum());
+    }
+    if (document.FirstChildElement() == nullptr)
+        refuse("no element", 1);
+}
+
+} // namespace
+
+CXmlDocument::CXmlDocument() : CXmlDocument(std::make_shared<tinyxml2::XMLDocument>()) {}
+
+CXmlDocument::CXmlDocument(std::shared_ptr<tinyxml2::XMLDocument> document) noexcept : m_document(std::move(document))
+{
+}
+
+CXmlDocument CXmlDocument::Unserialize(const std::string& text)
+{
+    const auto fault = detail::findTextFault(text);
+    if (fault.reason != nullptr)
+        refuse(fault.reason, lineAt(text, fault.offset));
+    auto document = std::make_shared<tinyxml2::XMLDocument>();
+    if (document->Parse(text.data(), text.size()) != tinyxml2::XML_SUCCESS)
+        refuse(document->ErrorName(), document->ErrorLineNum());
+    checkTopLevel(*document);
+    return CXmlDocument(std::move(document));
+}
+
+std::string CXmlDocument::Serialize(bool withDeclaration) const
+{
+    std::string text;
+    if (withDeclaration)
+        text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
+    detail::printXml(*m_document, text);
+    return text;
+}
+
+CXmlNode CXmlDocument::AddRootNode(CXmlName name)
+{
+    return ToNode().AddNode(name);
+}
+
+CXmlNode CXmlDocument::GetRootNode() const
+{
+    auto* root = m_document->FirstChildElement();
+    if (root == nullptr)
+        throw exc::CRuntimeExc("Root node is not found.");
+    return CXmlNode(m_document, root);
+}
+
+CXmlNode CXmlDocument::GetRootNode(CXmlName name) const
+{
+    auto* root = m_document->FirstChildElement();
+    if (root == nullptr || std::string_view(root->Name()) != std::string_view(name.c_str(), name.size()))
+        throw exc::CRuntimeExc("Root node [%1] is not found.", name.c_str());
+    return CXmlNode(m_document, root);
+}
+
+CXmlNode CXmlDocument::ToNode() const
+{
+    return CXmlNode(m_document, m_document.get());
+}
+
+int CXmlDocument::LastReadLine() const
+{
+    return static_cast<int>(reinterpret_cast<std::intptr_t>(m_document->GetUserData()));
+}
+
+} // namespace xmlpp

@@ -1,0 +1,312 @@
+#include <zelplatform/xmlpp/xml_node.h>
+
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+#include <tinyxml2.h>
+
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
+
+#include "text_checks.h"
+#include "xml_printer.h"
+
+namespace xmlpp
+{
+namespace
+{
+
+bool isNamed(const char* text, CXmlName name) noexcept
+{
+    return std::strncmp(text, name.c_str(), name.size()) == 0 && text[name.size()] == '\0';
+}
+
+// The document's user data is the line that was read last, see CXmlDocument::LastReadLine.
+void noteLine(tinyxml2::XMLDocument& document, int line) noexcept
+{
+    document.SetUserData(reinterpret_cast<void*>(static_cast<std::intptr_t>(line)));
+}
+
+tinyxml2::XMLElement* nextNamed(tinyxml2::XMLElement* element, const std::string* name)
+{
+    while (element != nullptr && name != nullptr && *name != element->Name())
+        element = element->NextSiblingElement();
+    return element;
+}
+
+} // namespace
+
+CXmlNode::CXmlNode(std::shared_ptr<tinyxml2::XMLDocument> document, tinyxml2::XMLNode* node)
+    : m_document(std::move(document)), m_node(node)
+{
+    if (m_document == nullptr || m_node == nullptr)
+        throw exc::CRuntimeExc("An XML node needs a document.");
+}
+
+tinyxml2::XMLElement& CXmlNode::element() const
+{
+    auto* element = m_node->ToElement();
+    if (element == nullptr)
+        throw exc::CRuntimeExc("A document has neither attributes nor text.");
+    return *element;
+}
+
+std::string CXmlNode::GetName() const
+{
+    const auto* element = m_node->ToElement();
+    return element != nullptr ? element->Name() : "";
+}
+
+int CXmlNode::GetLine() const
+{
+    return m_node->GetLineNum();
+}
+
+std::optional<CXmlNode> CXmlNode::FindChildNode(CXmlName name) const
+{
+    for (auto* child = m_node->FirstChildElement(); child != nullptr; child = child->NextSiblingElement())
+    {
+        if (isNamed(child->Name(), name))
+        {
+            noteLine(*m_document, child->GetLineNum());
+            return CXmlNode(m_document, child);
+        }
+    }
+    noteLine(*m_document, m_node->GetLineNum());
+    return std::nullopt;
+}
+
+bool CXmlNode::HasNode(CXmlName name) const
+{
+    return FindChildNode(name).has_value();
+}
+
+CXmlNode CXmlNode::GetFirstChildNode(CXmlName name) const
+{
+    if (auto child = FindChildNode(name))
+        return *std::move(child);
+    throw exc::CRuntimeExc("Node [%1] is not found in [%2].", name.c_str(), GetName());
+}
+
+CXmlNodeRange CXmlNode::GetChildNodes() const
+{
+    return CXmlNodeRange(*this, std::nullopt);
+}
+
+CXmlNodeRange CXmlNode::GetChildNodes(CXmlName name) const
+{
+    return CXmlNodeRange(*this, std::string(name.c_str(), name.size()));
+}
+
+CXmlNode CXmlNode::AddNode(CXmlName name)
+{
+    auto* child = m_document->NewElement(name.c_str());
+    m_node->InsertEndChild(child);
+    return CXmlNode(m_document, child);
+}
+
+// An element's user data is the attribute at which the next look-up starts: attributes that are asked for in document
+// order are found at once, others after one walk around the list.
+const tinyxml2::XMLAttribute* CXmlNode::findAttribute(CXmlName name) const
+{
+    auto* element = m_node->ToElement();
+    if (element == nullptr)
+        return nullptr;
+    const auto* first = element->FirstAttribute();
+    const auto* start = static_cast<const tinyxml2::XMLAttribute*>(element->GetUserData());
+    if (start == nullptr)
+        start = first;
+    const auto* found = start;
+    while (found != nullptr && !isNamed(found->Name(), name))
+        found = found->Next();
+    if (found == nullptr)
+    {
+        for (found = first; found != start; found = found->Next())
+        {
+            if (isNamed(found->Name(), name))
+                break;
+        }
+        if (found == start)
+        {
+            noteLine(*m_document, element->GetLineNum());
+            return nullptr;
+        }
+    }
+    noteLine(*m_document, found->GetLineNum());
+    element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(found));
+    return found;
+}
+
+bool CXmlNode::HasAttribute(CXmlName name) const
+{
+    return findAttribute(name) != nullptr;
+}
+
+std::optional<std::string_view> CXmlNode::FindAttribute(CXmlName name) const
+{
+    const auto* attribute = findAttribute(name);
+    if (attribute == nullptr)
+        return std::nullopt;
+    m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
+    return attribute->Value();
+}
+
+std::string_view CXmlNode::GetAttribute(CXmlName name) const
+{
+    if (const auto value = FindAttribute(name))
+        return *value;
+    throw exc::CRuntimeExc("Attribute [%1] is not found in [%2].", name.c_str(), GetName());
+}
+
+bool CXmlNode::GetBoolAttribute(CXmlName name) const
+{
+    return util::fromStr<bool>(GetAttribute(name));
+}
+
+unsigned long CXmlNode::GetUint64Attribute(CXmlName name) const
+{
+    return util::fromStr<unsigned long>(GetAttribute(name));
+}
+
+long CXmlNode::GetInt64Attribute(CXmlName name, EInt64Form form) const
+{
+    const auto text = GetAttribute(name);
+    if (form == EInt64Form::UnsignedWrapped && !text.empty() && text.front() != '-')
+        return static_cast<long>(util::fromStr<unsigned long>(text));
+    return util::fromStr<long>(text);
+}
+
+guid::guid_t CXmlNode::GetGuidAttribute(CXmlName name) const
+{
+    return guid::guid_t::FromAStr(std::string(GetAttribute(name)));
+}
+
+datetime::CDateTime CXmlNode::GetDateTimeAttribute(CXmlName name, const std::string& format, bool isUtc) const
+{
+    return datetime::CDateTime::fromString(std::string(GetAttribute(name)), format, isUtc);
+}
+
+std::string CXmlNode::GetInnerText() const
+{
+    std::string text;
+    for (const auto* child = element().FirstChild(); child != nullptr; child = child->NextSibling())
+    {
+        if (child->ToText() != nullptr)
+            text += child->Value();
+    }
+    return util::str_trim(text);
+}
+
+void CXmlNode::setAttributeText(CXmlName name, const char* value)
+{
+    element().SetAttribute(name.c_str(), value);
+}
+
+void CXmlNode::SetAttribute(CXmlName name, const std::string& value)
+{
+    if (!detail::isCarriedByXml(value))
+        throw exc::CRuntimeExc("The value of attribute [%1] has a character that XML cannot carry.", name.c_str());
+    setAttributeText(name, value.c_str());
+}
+
+void CXmlNode::SetAttribute(CXmlName name, const char* value)
+{
+    SetAttribute(name, std::string(value));
+}
+
+void CXmlNode::SetBoolAttribute(CXmlName name, bool value)
+{
+    setAttributeText(name, value ? "true" : "false");
+}
+
+void CXmlNode::SetUint64Attribute(CXmlName name, unsigned long value)
+{
+    char text[24] = {};
+    std::to_chars(text, text + sizeof text - 1, value);
+    setAttributeText(name, text);
+}
+
+void CXmlNode::SetInt64Attribute(CXmlName name, long value)
+{
+    char text[24] = {};
+    std::to_chars(text, text + sizeof text - 1, value);
+    setAttributeText(name, text);
+}
+
+void CXmlNode::SetGuidAttribute(CXmlName name, const guid::guid_t& value)
+{
+    setAttributeText(name, value.ToAStr().c_str());
+}
+
+void CXmlNode::SetDateTimeAttribute(CXmlName name, const datetime::CDateTime& value, const std::string& format)
+{
+    SetAttribute(name, value.toStdString(format));
+}
+
+void CXmlNode::SetInnerText(const std::string& value)
+{
+    if (!detail::isCarriedByXml(value))
+        throw exc::CRuntimeExc("The text of [%1] has a character that XML cannot carry.", GetName());
+    element().SetText(value.c_str());
+}
+
+CXmlNode CXmlNode::AddStringArray(CXmlName name, CXmlName itemName, CXmlName attributeName,
+                                  const std::vector<std::string>& values)
+{
+    auto list = AddNode(name);
+    for (const auto& value : values)
+        list.AddNode(itemName).SetAttribute(attributeName, value);
+    return list;
+}
+
+std::vector<std::string> CXmlNode::GetStringArray(CXmlName name, CXmlName itemName, CXmlName attributeName) const
+{
+    std::vector<std::string> values;
+    for (const auto& item : GetFirstChildNode(name).GetChildNodes(itemName))
+        values.emplace_back(item.GetAttribute(attributeName));
+    return values;
+}
+
+std::string CXmlNode::SerializeDocument() const
+{
+    std::string text;
+    detail::printXml(*m_document, text);
+    return text;
+}
+
+CXmlNodeRange::CXmlNodeRange(CXmlNode parent, std::optional<std::string> name)
+    : m_parent(std::move(parent)), m_name(std::move(name))
+{
+}
+
+CXmlNodeRange::iterator CXmlNodeRange::begin() const
+{
+    const auto* name = m_name ? &*m_name : nullptr;
+    return iterator(m_parent, nextNamed(m_parent.m_node->FirstChildElement(), name), name);
+}
+
+CXmlNodeRange::iterator CXmlNodeRange::end() const
+{
+    return iterator(m_parent, nullptr, nullptr);
+}
+
+CXmlNodeRange::iterator::iterator(CXmlNode parent, tinyxml2::XMLNode* at, const std::string* name)
+    : m_current(std::move(parent)), m_name(name)
+{
+    m_current.m_node = at;
+}
+
+CXmlNodeRange::iterator& CXmlNodeRange::iterator::operator++()
+{
+    m_current.m_node = nextNamed(m_current.m_node->NextSiblingElement(), m_name);
+    return *this;
+}
+
+bool CXmlNodeRange::iterator::operator!=(const iterator& other) const noexcept
+{
+    return m_current.m_node != other.m_current.m_node;
+}
+
+} // namespace xmlpp

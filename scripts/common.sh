@@ -1,0 +1,53 @@
+# Sourced by the commands: where we are, what every build needs, how to build a preset and how to time a step.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+export LC_ALL=C.UTF-8
+
+build_packages=(
+    g++ cmake ninja-build libboost1.81-dev libtinyxml2-dev libssl-dev libspdlog-dev libmagicenum-dev
+    libcli11-dev nlohmann-json3-dev libgtest-dev)
+clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
+
+# build PRESET [TARGET...]: configures and builds; without targets everything.
+build() {
+    local preset=$1 log
+    shift
+    mkdir -p build
+    log=build/$preset.configure.log
+    cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+    local call=(cmake --build --preset "$preset")
+    [ $# -eq 0 ] || call+=(--target "$@")
+    if [ -t 1 ]; then
+        "${call[@]}"
+    else
+        "${call[@]}" -- --quiet | sed '/^ninja: no work to do/d'
+    fi
+}
+
+# step NAME COMMAND...: prints the name and the seconds; ends the script with the name when the command fails.
+steps=0
+step() {
+    local name=$1 begin=$SECONDS
+    shift
+    printf '== %s\n' "$name"
+    # A subshell of its own keeps errexit at work inside functions, which a condition would switch off.
+    set +e
+    (set -e; "$@")
+    local result=$?
+    set -e
+    if [ $result -ne 0 ]; then
+        printf '== FAILED: %s (%d s)\n' "$name" $((SECONDS - begin)) >&2
+        exit 1
+    fi
+    steps=$((steps + 1))
+    printf '== %s: %d s\n' "$name" $((SECONDS - begin))
+}
+
+# own_files EXTENSION...: our sources below the folders that hold C++.
+own_files() {
+    local names=() extension
+    for extension in "$@"; do
+        names+=(-o -name "*.$extension")
+    done
+    find include model platform tools tests bench -type f \( "${names[@]:1}" \) 2>/dev/null | sort
+}

@@ -1,0 +1,186 @@
+#include "visitors.h"
+
+#include <utility>
+
+#include <zelmodel/datetime/date.h>
+#include <zelmodel/structs/schedule/schedule_calendar.h>
+#include <zelplatform/util/util.h>
+
+#include "document_names.h"
+#include "words.h"
+
+namespace describe
+{
+namespace
+{
+
+using zelplatform::model::CDate;
+using zelplatform::model::structs::CDayOfMonth;
+using zelplatform::model::structs::CFullBackupOptions;
+using zelplatform::model::structs::CScheduleCalendar;
+using zelplatform::model::structs::CScheduleOptions;
+using zelplatform::model::structs::CStartJobScheduleOptions;
+using zelplatform::model::structs::EScheduleType;
+using zelplatform::model::structs::EWeekDayNumber;
+
+constexpr unsigned long LastOldScheduleVersion = 2;
+
+std::string tellType(EScheduleType::type type)
+{
+    switch (type)
+    {
+    case EScheduleType::Weekly:
+        return "weekly";
+    case EScheduleType::Monthly:
+        return "monthly";
+    case EScheduleType::Periodically:
+        return "periodically";
+    case EScheduleType::Continuously:
+        return "continuously";
+    }
+    return "of an unknown kind";
+}
+
+std::string tellDayOfMonth(const CDayOfMonth& day)
+{
+    if (!day.IsSet())
+        return "not set";
+    return day.IsSetLast() ? "the last" : util::toStr(day.Get());
+}
+
+// Any day serves: a calendar that has none in the 41 years after it has none at all.
+bool hasDays(const CScheduleCalendar& calendar)
+{
+    return calendar.GetNextScheduleDateFromDate(CDate(datetime::CDateTime(true))).has_value();
+}
+
+std::string tellDays(const CScheduleCalendar& calendar)
+{
+    auto withoutTime = calendar;
+    withoutTime.ResetTime();
+    const auto text = withoutTime.ToLogStr(false);
+    if (hasDays(calendar))
+        return text;
+    if (calendar.GetWeekMask().IsAllDaysOff())
+        return "never, as no week day is chosen,";
+    if (calendar.IsScheduleMonthly() && calendar.GetMonthMask().IsAllMonthsOff())
+        return "never, as no month is chosen,";
+    return text + ", a day that never comes,";
+}
+
+std::string tellEvaluableCalendar(const CScheduleCalendar& calendar)
+{
+    if (calendar.IsSchedulePeriodically() && !calendar.IsTimeSet())
+        return "periodically, but without a period";
+    if (calendar.IsScheduleRecurrent())
+        return calendar.ToLogStr(false);
+    const auto days = tellDays(calendar);
+    if (calendar.IsTimeSet())
+        return days + " at " + calendar.GetTime().ToTimeStr();
+    return days.back() == ',' ? days.substr(0, days.size() - 1) : days;
+}
+
+/// Fields of the calendar; the place is the element that it was read from.
+void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::vector<Node>& fields)
+{
+    const auto type = calendar.GetScheduleType();
+    fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type),
+                                place.lineOf(schedule_names::Type)));
+    const auto timeElement = place.child(schedule_names::Time);
+    const auto time = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
+    fields.push_back(makeDetail("time", calendar.IsSchedulePeriodically() ? "Period" : "Time of day", time,
+                                textOr(time, "not set"),
+                                (timeElement.isThere() ? timeElement : place).lineOf(schedule_names::Hours)));
+    const auto& weekMask = calendar.GetWeekMask();
+    fields.push_back(makeDetail("weekMask", "Week days", weekMask.ToString(",", false),
+                                textOr(weekMask.ToLogStr(false), "none"),
+                                place.child(schedule_names::WeekMask).line()));
+    const auto& monthMask = calendar.GetMonthMask();
+    fields.push_back(makeDetail("monthMask", "Months", monthMask.ToString(",", false),
+                                textOr(monthMask.ToLogStr(false), "none"),
+                                place.child(schedule_names::MonthMask).line()));
+    const auto number = EWeekDayNumber::ToStr(calendar.GetWeekDayNumber());
+    fields.push_back(makeDetail("weekDayNumber", "Which of the week days", number, number,
+                                place.lineOf(schedule_names::WeekDayNumber)));
+    const auto& day = calendar.GetDayOfMonth();
+    fields.push_back(makeDetail("dayOfMonth", "Day of the month", util::toStr(day.Get()), tellDayOfMonth(day),
+                                place.lineOf(schedule_names::DayOfMonth)));
+}
+
+// The library's own line for logs writes the time of day as a duration; people who compare logs look for it.
+void addLogText(const CScheduleCalendar& calendar, bool isEnabled, std::vector<Node>& fields)
+try
+{
+    const auto text = calendar.ToLogStr(false);
+    if (isEnabled && text != tellCalendar(calendar))
+        fields.push_back(makeField("logText", "In the log", text, text, 0));
+}
+catch (const std::exception&)
+{
+    return;
+}
+
+std::string tellOptions(bool isEnabled, const CScheduleCalendar& calendar, const Place& place, const char* verb)
+{
+    if (isEnabled)
+        return verb + tellCalendar(calendar);
+    return place.isThere() ? "disabled, set to " + tellCalendar(calendar) : "disabled";
+}
+
+bool isOldLayout(const Place& place)
+{
+    const auto version = place.textOf(schedule_names::Version);
+    return version.empty() || util::fromStr<unsigned long>(version) - 1 < LastOldScheduleVersion;
+}
+
+Node visitStart(const CStartJobScheduleOptions& start, const Place& parent)
+{
+    const auto place = parent.child(schedule_names::Schedule);
+    const auto& calendar = start.GetCalendar();
+    auto node = makeField("jobStart", "Start", "", tellOptions(start.IsEnabled(), calendar, place, "starts "),
+                          place.line());
+    const bool isOld = place.isThere() && isOldLayout(place);
+    node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(start.IsEnabled()),
+                                       flagText(start.IsEnabled()),
+                                       isOld ? parent.lineOf(schedule_names::Schedule)
+                                             : place.lineOf(schedule_names::IsEnabled)));
+    visitCalendar(calendar, place, node.children);
+    addLogText(calendar, start.IsEnabled(), node.children);
+    return node;
+}
+
+Node visitFull(const CFullBackupOptions& full, const char* name, const char* label, const Place& parent)
+{
+    const auto place = parent.child(CFullBackupOptions::GetRootNodeName(full.GetType()));
+    const auto& calendar = full.GetCalendar();
+    auto node = makeField(name, label, "", tellOptions(full.IsEnabled(), calendar, place, ""), place.line());
+    node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(full.IsEnabled()), flagText(full.IsEnabled()),
+                                       place.lineOf(schedule_names::IsEnabled)));
+    visitCalendar(calendar, place, node.children);
+    addLogText(calendar, full.IsEnabled(), node.children);
+    return node;
+}
+
+} // namespace
+
+std::string tellCalendar(const CScheduleCalendar& calendar)
+try
+{
+    return tellEvaluableCalendar(calendar);
+}
+catch (const std::exception& cause)
+{
+    return std::string("cannot be evaluated: ") + cause.what();
+}
+
+Node visitSchedule(const CScheduleOptions& schedule, const Place& parent)
+{
+    auto node = makeField("schedule", "Schedule", "", "", parent.line());
+    node.children.push_back(visitStart(schedule.GetJobStartOptions(), parent));
+    node.children.push_back(visitFull(schedule.GetActiveFullOptions(), "activeFull", "Active full", parent));
+    node.children.push_back(visitFull(schedule.GetSyntheticFullOptions(), "syntheticFull", "Synthetic full", parent));
+    node.children.push_back(makeField("backupWindow", "Window", "", "in a document of its own, if there is one", 0));
+    return node;
+}
+
+} // namespace describe

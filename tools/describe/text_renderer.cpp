@@ -1,0 +1,144 @@
+#include "text_renderer.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "terminal_text.h"
+
+namespace describe
+{
+namespace
+{
+
+constexpr std::size_t Indent = 2;
+constexpr std::size_t Gap = 2;
+constexpr std::size_t NarrowestWords = 20;
+constexpr const char* Hidden = "(hidden)";
+
+struct Line
+{
+    std::string label;
+    std::string words;
+};
+
+// Characters, as each takes one column; wide and combining ones are not told apart.
+std::size_t columnsOf(std::string_view text)
+{
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+std::string shownWords(const Node& node, const TextStyle& style)
+{
+    if (node.secret && !style.showsSecrets)
+        return Hidden;
+    return printable(shortened(node.words, style.longestWords));
+}
+
+void collectLines(const std::vector<Node>& nodes, std::size_t depth, const TextStyle& style, std::vector<Line>& lines)
+{
+    for (const auto& node : nodes)
+    {
+        if (node.isDetail)
+            continue;
+        lines.push_back({std::string(depth * Indent, ' ') + printable(node.label), shownWords(node, style)});
+        collectLines(node.children, depth + 1, style, lines);
+    }
+}
+
+std::string paddedTo(std::string text, std::size_t width)
+{
+    const auto columns = columnsOf(text);
+    return columns < width ? text.append(width - columns, ' ') : text;
+}
+
+std::string withoutTrailingBlanks(std::string text)
+{
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+/// The words broken at blanks into lines of the width; a single longer word stays whole.
+std::string broken(const std::string& words, std::size_t start, const TextStyle& style)
+{
+    if (style.width == 0)
+        return words;
+    const auto room = std::max(style.width > start ? style.width - start : 0, NarrowestWords);
+    std::string text;
+    std::size_t used = 0;
+    for (std::size_t from = 0; from < words.size();)
+    {
+        const auto end = std::min(words.find(' ', from), words.size());
+        const auto word = words.substr(from, end - from);
+        if (used > 0 && used + 1 + columnsOf(word) > room)
+        {
+            text += '\n' + std::string(start, ' ');
+            used = 0;
+        }
+        text += (used > 0 ? " " : "") + word;
+        used += (used > 0 ? 1 : 0) + columnsOf(word);
+        from = end + 1;
+    }
+    return text;
+}
+
+std::string renderTitle(const Node& node, const TextStyle& style)
+{
+    auto title = printable(node.label);
+    const auto words = shownWords(node, style);
+    if (!words.empty())
+        title += (title.empty() ? "" : ": ") + words;
+    return (style.isBold ? "\x1b[1m" + title + "\x1b[0m" : title) + '\n';
+}
+
+} // namespace
+
+std::string renderText(const Node& node, const TextStyle& style)
+{
+    std::vector<Line> lines;
+    collectLines(node.children, 1, style, lines);
+    std::size_t start = 0;
+    for (const auto& line : lines)
+        start = std::max(start, columnsOf(line.label) + Gap);
+    std::string text = renderTitle(node, style);
+    for (const auto& line : lines)
+        text += withoutTrailingBlanks(paddedTo(line.label, start) + broken(line.words, start, style)) + '\n';
+    return text;
+}
+
+std::string renderTable(const Node& node, const TextStyle& style)
+{
+    std::string text = renderTitle(node, style);
+    if (node.children.empty())
+        return text;
+    const auto columns = node.children.front().children.size();
+    std::vector<std::vector<std::string>> rows(node.children.size());
+    std::vector<std::size_t> widths(columns, 0);
+    for (std::size_t row = 0; row < rows.size(); ++row)
+    {
+        for (std::size_t column = 0; column < columns; ++column)
+        {
+            rows[row].push_back(shownWords(node.children[row].children.at(column), style));
+            widths[column] = std::max(widths[column], columnsOf(rows[row][column]));
+        }
+    }
+    std::vector<std::string> heads;
+    for (std::size_t column = 0; column < columns; ++column)
+    {
+        heads.push_back(printable(node.children.front().children[column].label));
+        if (widths[column] > 0)
+            widths[column] = std::max(widths[column], columnsOf(heads[column])) + Gap;
+    }
+    rows.insert(rows.begin(), heads);
+    for (const auto& row : rows)
+    {
+        std::string line;
+        for (std::size_t column = 0; column < columns; ++column)
+            line += widths[column] > 0 ? paddedTo(row[column], widths[column]) : "";
+        text += withoutTrailingBlanks(line) + '\n';
+    }
+    return text;
+}
+
+} // namespace describe

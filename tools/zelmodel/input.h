@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "describe/document.h"
+
+/// A file that cannot be opened or read; the text says which and why.
+class InputError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The argument that stands for standard input.
+constexpr const char* StandardInput = "-";
+
+/// What is being read. It outlives the reading, so that a refusal can say in which file and on which line.
+struct Reading
+{
+    std::string name;
+    std::optional<describe::Document> document;
+
+    /// The line of the refusal; 0 when none is known.
+    int line() const { return document ? document->lastReadLine() : 0; }
+};
+
+/// The name of an input for messages.
+std::string shownName(const std::string& name);
+
+/// The whole input; throws InputError when it cannot be read, and refuses (exc::CRuntimeExc) one that is longer than any
+/// document may be, before it is read whole.
+std::string readInput(const std::string& name);
+
+/// Reads and parses the input; the reading tells of it until the next one.
+const describe::Document& openDocument(const std::string& name, Reading& reading);
