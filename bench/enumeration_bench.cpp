@@ -75,7 +75,7 @@ BENCHMARK(repositoryFromTextByReflection);
 const bool added =
     zelmodel_bench::addFigure({"enumeration to text", "blockSizeToText", "blockSizeToTextByReflection", 1.00}) &&
     zelmodel_bench::addFigure({"enumeration from text", "blockSizeFromText", "blockSizeFromTextByReflection", 1.00}) &&
-    zelmodel_bench::addFigure({"enumeration from text, any letter case", "repositoryFromText",
-                               "repositoryFromTextByReflection", 1.00});
+    zelmodel_bench::addFigure(
+        {"enumeration from text, any letter case", "repositoryFromText", "repositoryFromTextByReflection", 1.00});
 
 } // namespace

@@ -12,9 +12,8 @@
 int main(int argc, char** argv)
 {
     std::vector<std::string> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1,
-                     {"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
-                      "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"});
+    arguments.insert(arguments.begin() + 1, {"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
+                                             "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"});
     std::vector<char*> pointers;
     for (auto& argument : arguments)
         pointers.push_back(argument.data());
@@ -27,6 +26,7 @@ int main(int argc, char** argv)
     benchmark::RunSpecifiedBenchmarks(&reporter);
     const bool isFastEnough = reporter.printTable();
     const bool isSmallEnough = zelmodel_bench::printLoadFigures();
-    std::printf("%s\n", isFastEnough && isSmallEnough ? "all figures within their bounds" : "figures above their bounds");
+    std::printf("%s\n",
+                isFastEnough && isSmallEnough ? "all figures within their bounds" : "figures above their bounds");
     return 0;
 }

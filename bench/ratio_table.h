@@ -9,7 +9,8 @@
 namespace zelmodel_bench
 {
 
-/// A figure of ours beside its peer: two benchmarks of one run, and the ratio of their times that is not to be exceeded.
+/// A figure of ours beside its peer: two benchmarks of one run, and the ratio of their times that is not to be
+/// exceeded.
 struct Figure
 {
     std::string name;

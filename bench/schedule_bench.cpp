@@ -128,9 +128,8 @@ BENCHMARK(previousByGeneratorOfMonth);
 
 const bool added =
     zelmodel_bench::addFigure({"is a date scheduled", "isScheduledAtDate", "isScheduledByGenerator", 0.50}) &&
+    zelmodel_bench::addFigure({"previous scheduled date", "previousScheduleDate", "previousByGenerator", 0.25}) &&
     zelmodel_bench::addFigure(
-        {"previous scheduled date", "previousScheduleDate", "previousByGenerator", 0.25}) &&
-    zelmodel_bench::addFigure({"previous scheduled date, generator per month", "previousScheduleDate",
-                               "previousByGeneratorOfMonth", 1.00});
+        {"previous scheduled date, generator per month", "previousScheduleDate", "previousByGeneratorOfMonth", 1.00});
 
 } // namespace

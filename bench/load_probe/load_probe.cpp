@@ -27,7 +27,7 @@ long privateKib()
 
 bool load(const char* path)
 {
-    if (dlopen(path, RTLD_NOW | RTLD_GLOBAL) != nullptr)
+    if (dlopen(path, RTLD_LAZY | RTLD_GLOBAL) != nullptr)
         return true;
     std::fprintf(stderr, "%s\n", dlerror());
     return false;
