@@ -37,7 +37,7 @@ CNetworkEndpoint parsed(std::string_view text)
 CNetworkEndpoint endpointFrom(const std::string& text)
 try
 {
-    const auto endpoint = parsed(text);
+    auto endpoint = parsed(text);
     if (endpoint.ToString() != text)
         throw exc::CRuntimeExc("It reads as [%1].", endpoint.ToString());
     return endpoint;

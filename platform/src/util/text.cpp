@@ -58,7 +58,8 @@ std::string toupper(std::string text)
 
 bool str_is_equal_nocase(std::string_view a, std::string_view b) noexcept
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return lower(x) == lower(y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return x == y || lower(x) == lower(y); });
 }
 
 std::string str_trim(std::string_view text)

@@ -1,6 +1,7 @@
 #include "text_checks.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include <boost/algorithm/string/predicate.hpp>
@@ -19,11 +20,40 @@ constexpr std::size_t ShortTextSize = 16 * 1024;
 
 constexpr unsigned long LastCharacter = 0x10FFFF;
 
+bool isControl(unsigned long code) noexcept
+{
+    return code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+}
+
 bool isXmlCharacter(unsigned long code) noexcept
 {
-    const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
     const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-    return !isControl && !isSurrogate && code <= LastCharacter;
+    return !isControl(code) && !isSurrogate && code <= LastCharacter;
+}
+
+std::size_t findControlByte(std::string_view bytes) noexcept
+{
+    const auto found =
+        std::find_if(bytes.begin(), bytes.end(), [](char c) { return isControl(static_cast<unsigned char>(c)); });
+    return static_cast<std::size_t>(found - bytes.begin());
+}
+
+// Eight bytes at a time; only a word with a byte below the blank is looked at byte by byte.
+std::size_t findControl(std::string_view text) noexcept
+{
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    constexpr std::size_t wordSize = sizeof(std::uint64_t);
+    std::size_t at = 0;
+    for (; at + wordSize <= text.size(); at += wordSize)
+    {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data() + at, wordSize);
+        const bool mayHaveControl = ((word - ones * 0x20U) & ~word & (ones * 0x80U)) != 0;
+        const auto inWord = mayHaveControl ? findControlByte(text.substr(at, wordSize)) : wordSize;
+        if (inWord < wordSize)
+            return at + inWord;
+    }
+    return at + findControlByte(text.substr(at));
 }
 
 int digitValue(char c, bool isHex) noexcept
@@ -56,42 +86,14 @@ bool isSoundReference(std::string_view text) noexcept
     return digits > 0 && digits < text.size() && text[digits] == ';' && isXmlCharacter(code);
 }
 
-TextFault findBadReference(std::string_view text) noexcept
-{
-    for (auto at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1))
-    {
-        if (text.substr(at, 2) == "&#" && !isSoundReference(text.substr(at + 2)))
-            return {"malformed reference or reference to a character that XML does not have", at};
-    }
-    return NoFault;
-}
-
-TextFault findForeignEncoding(std::string_view text)
-{
-    const auto start = text.substr(0, 64).find("<?xml");
-    if (start == std::string_view::npos)
-        return NoFault;
-    const auto declaration = text.substr(start, text.find("?>", start) - start);
-    const auto name = declaration.find("encoding");
-    if (name == std::string_view::npos)
-        return NoFault;
-    const auto open = declaration.find_first_of("\"'", name);
-    if (open == std::string_view::npos)
-        return NoFault;
-    const auto value = declaration.substr(open + 1, declaration.find(declaration[open], open + 1) - open - 1);
-    if (boost::iequals(value, "UTF-8") || boost::iequals(value, "US-ASCII"))
-        return NoFault;
-    return {"encoding other than UTF-8 and US-ASCII", start + open};
-}
-
 std::size_t endOf(std::string_view text, std::string_view closing, std::size_t from) noexcept
 {
     const auto at = text.find(closing, from);
     return at == std::string_view::npos ? text.size() : at + closing.size();
 }
 
-// Steps over one tag and counts its quoted values.
-std::size_t skipTag(std::string_view text, std::size_t at, unsigned& values) noexcept
+// The end of a tag, past its quoted values, which may hold anything; counts them.
+std::size_t endOfTag(std::string_view text, std::size_t at, unsigned& values) noexcept
 {
     values = 0;
     while (at < text.size() && text[at] != '>')
@@ -107,30 +109,89 @@ std::size_t skipTag(std::string_view text, std::size_t at, unsigned& values) noe
     return at;
 }
 
+/// A stretch of a text as the parser divides it.
+struct Stretch
+{
+    std::size_t begin;
+    std::size_t end;
+    bool hasReferences; ///< text or a tag; comments, CDATA, declarations and DOCTYPE take "&" to the letter
+    unsigned values;    ///< quoted values of a tag
+};
+
+// The stretch that starts at the offset. Up to the first fault of the markup it is the one that the parser sees.
+Stretch stretchAt(std::string_view text, std::size_t at) noexcept
+{
+    const auto rest = text.substr(at, 9);
+    if (rest.front() != '<')
+        return {at, std::min(text.find('<', at), text.size()), true, 0};
+    if (rest.substr(0, 2) == "<?")
+        return {at, endOf(text, "?>", at), false, 0};
+    if (rest.substr(0, 4) == "<!--")
+        return {at, endOf(text, "-->", at + 4), false, 0};
+    if (rest == "<![CDATA[")
+        return {at, endOf(text, "]]>", at), false, 0};
+    if (rest.substr(0, 2) == "<!")
+        return {at, endOf(text, ">", at), false, 0};
+    Stretch tag{at, 0, true, 0};
+    tag.end = std::min(endOfTag(text, at + 1, tag.values) + 1, text.size());
+    return tag;
+}
+
+TextFault findBadReferenceIn(std::string_view text, std::size_t begin, std::size_t end) noexcept
+{
+    for (auto at = text.find('&', begin); at < end; at = text.find('&', at + 1))
+    {
+        if (text.substr(at, 2) == "&#" && !isSoundReference(text.substr(at + 2)))
+            return {"malformed reference or reference to a character that XML does not have", at};
+    }
+    return NoFault;
+}
+
+// Looks at the whole text first, which is quick and nearly always enough; only a find sends it through the markup.
+TextFault findBadReference(std::string_view text) noexcept
+{
+    if (findBadReferenceIn(text, 0, text.size()).reason == nullptr)
+        return NoFault;
+    for (std::size_t at = 0; at < text.size();)
+    {
+        const auto stretch = stretchAt(text, at);
+        const auto fault = stretch.hasReferences ? findBadReferenceIn(text, stretch.begin, stretch.end) : NoFault;
+        if (fault.reason != nullptr)
+            return fault;
+        at = stretch.end;
+    }
+    return NoFault;
+}
+
 // The parser looks for a duplicate of each attribute along the whole list, so a long list costs quadratic time.
 TextFault findCrowdedElement(std::string_view text) noexcept
 {
-    for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at))
+    for (std::size_t at = 0; at < text.size();)
     {
-        const auto rest = text.substr(at, 9);
-        if (rest.substr(0, 2) == "<?")
-            at = endOf(text, "?>", at);
-        else if (rest.substr(0, 4) == "<!--")
-            at = endOf(text, "-->", at);
-        else if (rest == "<![CDATA[")
-            at = endOf(text, "]]>", at);
-        else if (rest.substr(0, 2) == "<!")
-            at = endOf(text, ">", at);
-        else
-        {
-            unsigned values = 0;
-            const auto end = skipTag(text, at + 1, values);
-            if (values > CXmlDocument::MaxAttributes)
-                return {"too many attributes", at};
-            at = end;
-        }
+        const auto stretch = stretchAt(text, at);
+        if (stretch.values > CXmlDocument::MaxAttributes)
+            return {"too many attributes", stretch.begin};
+        at = stretch.end;
     }
     return NoFault;
+}
+
+TextFault findForeignEncoding(std::string_view text)
+{
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    std::size_t start = text.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
+    start = std::min(text.find_first_not_of(" \t\r\n", start), text.size());
+    if (text.substr(start, 5) != "<?xml")
+        return NoFault;
+    const auto declaration = text.substr(start, text.find("?>", start) - start);
+    const auto name = declaration.find("encoding");
+    const auto open = declaration.find_first_of("\"'", std::min(name, declaration.size()));
+    if (open == std::string_view::npos)
+        return NoFault;
+    const auto value = declaration.substr(open + 1, declaration.find(declaration[open], open + 1) - open - 1);
+    if (boost::iequals(value, "UTF-8") || boost::iequals(value, "US-ASCII"))
+        return NoFault;
+    return {"encoding other than UTF-8 and US-ASCII", start + open};
 }
 
 } // namespace
@@ -139,8 +200,8 @@ TextFault findTextFault(std::string_view text)
 {
     if (text.size() > CXmlDocument::MaxTextSize)
         return {"text too large", 0};
-    if (const auto nul = text.find('\0'); nul != std::string_view::npos)
-        return {"NUL byte", nul};
+    if (const auto control = findControl(text); control < text.size())
+        return {text[control] == '\0' ? "NUL byte" : "control character that XML does not have", control};
     if (const auto fault = findBadReference(text); fault.reason != nullptr)
         return fault;
     if (const auto fault = findForeignEncoding(text); fault.reason != nullptr)
@@ -150,9 +211,7 @@ TextFault findTextFault(std::string_view text)
 
 bool isCarriedByXml(std::string_view value) noexcept
 {
-    return std::all_of(value.begin(), value.end(), [](char c) {
-        return static_cast<unsigned char>(c) >= 0x20 || c == '\t' || c == '\n' || c == '\r';
-    });
+    return findControl(value) == value.size();
 }
 
 } // namespace xmlpp::detail

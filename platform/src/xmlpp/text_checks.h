@@ -13,8 +13,9 @@ struct TextFault
     std::size_t offset = 0;
 };
 
-/// Looks for what the parser would pass over in silence or spend quadratic time on: NUL bytes, references to
-/// characters that XML does not have, foreign encodings, texts that are too long, elements with too many attributes.
+/// Looks for what the parser would pass over in silence or spend quadratic time on: NUL and other control characters,
+/// references to characters that XML does not have, foreign encodings, texts that are too long, elements with too many
+/// attributes.
 TextFault findTextFault(std::string_view text);
 
 /// True when every byte may stand in XML: no control character but tab, CR and LF.

@@ -33,6 +33,8 @@ void checkTopLevel(const tinyxml2::XMLDocument& document)
     {
         if (node->ToText() != nullptr)
             refuse("text at the top", node->GetLineNum());
+        if (node->ToDeclaration() != nullptr && node->PreviousSibling() != nullptr)
+            refuse("second declaration", node->GetLineNum());
     }
     if (document.FirstChildElement() == nullptr)
         refuse("no element", 1);
@@ -83,7 +85,7 @@ CXmlNode CXmlDocument::GetRootNode() const
 CXmlNode CXmlDocument::GetRootNode(CXmlName name) const
 {
     auto* root = m_document->FirstChildElement();
-    if (root == nullptr || std::string_view(root->Name()) != std::string_view(name.c_str(), name.size()))
+    if (root == nullptr || std::string_view(root->Name()) != name.c_str())
         throw exc::CRuntimeExc("Root node [%1] is not found.", name.c_str());
     return CXmlNode(m_document, root);
 }

@@ -20,13 +20,33 @@ namespace
 
 bool isNamed(const char* text, CXmlName name) noexcept
 {
-    return std::strncmp(text, name.c_str(), name.size()) == 0 && text[name.size()] == '\0';
+    return *text == *name.c_str() && std::strcmp(text, name.c_str()) == 0;
+}
+
+// The parser has just written the value byte by byte when it is asked for the first time; the wide loads of strlen
+// would wait for those bytes, single ones do not.
+std::string_view viewOf(const char* value) noexcept
+{
+    constexpr std::size_t shortSize = 24;
+    std::size_t size = 0;
+    while (size < shortSize && value[size] != '\0')
+        ++size;
+    return {value, size < shortSize ? size : size + std::strlen(value + size)};
 }
 
 // The document's user data is the line that was read last, see CXmlDocument::LastReadLine.
 void noteLine(tinyxml2::XMLDocument& document, int line) noexcept
 {
     document.SetUserData(reinterpret_cast<void*>(static_cast<std::intptr_t>(line)));
+}
+
+// The attribute of the name from one on, up to another or the end.
+const tinyxml2::XMLAttribute* findNamed(const tinyxml2::XMLAttribute* from, const tinyxml2::XMLAttribute* end,
+                                        CXmlName name) noexcept
+{
+    while (from != end && !isNamed(from->Name(), name))
+        from = from->Next();
+    return from != end ? from : nullptr;
 }
 
 tinyxml2::XMLElement* nextNamed(tinyxml2::XMLElement* element, const std::string* name)
@@ -97,7 +117,7 @@ CXmlNodeRange CXmlNode::GetChildNodes() const
 
 CXmlNodeRange CXmlNode::GetChildNodes(CXmlName name) const
 {
-    return CXmlNodeRange(*this, std::string(name.c_str(), name.size()));
+    return CXmlNodeRange(*this, std::string(name.c_str()));
 }
 
 CXmlNode CXmlNode::AddNode(CXmlName name)
@@ -118,24 +138,12 @@ const tinyxml2::XMLAttribute* CXmlNode::findAttribute(CXmlName name) const
     const auto* start = static_cast<const tinyxml2::XMLAttribute*>(element->GetUserData());
     if (start == nullptr)
         start = first;
-    const auto* found = start;
-    while (found != nullptr && !isNamed(found->Name(), name))
-        found = found->Next();
+    const auto* found = findNamed(start, nullptr, name);
     if (found == nullptr)
-    {
-        for (found = first; found != start; found = found->Next())
-        {
-            if (isNamed(found->Name(), name))
-                break;
-        }
-        if (found == start)
-        {
-            noteLine(*m_document, element->GetLineNum());
-            return nullptr;
-        }
-    }
-    noteLine(*m_document, found->GetLineNum());
-    element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(found));
+        found = findNamed(first, start, name);
+    noteLine(*m_document, found != nullptr ? found->GetLineNum() : element->GetLineNum());
+    if (found != nullptr)
+        element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(found));
     return found;
 }
 
@@ -150,14 +158,16 @@ std::optional<std::string_view> CXmlNode::FindAttribute(CXmlName name) const
     if (attribute == nullptr)
         return std::nullopt;
     m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
-    return attribute->Value();
+    return viewOf(attribute->Value());
 }
 
 std::string_view CXmlNode::GetAttribute(CXmlName name) const
 {
-    if (const auto value = FindAttribute(name))
-        return *value;
-    throw exc::CRuntimeExc("Attribute [%1] is not found in [%2].", name.c_str(), GetName());
+    const auto* attribute = findAttribute(name);
+    if (attribute == nullptr)
+        throw exc::CRuntimeExc("Attribute [%1] is not found in [%2].", name.c_str(), GetName());
+    m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
+    return viewOf(attribute->Value());
 }
 
 bool CXmlNode::GetBoolAttribute(CXmlName name) const
@@ -173,8 +183,10 @@ unsigned long CXmlNode::GetUint64Attribute(CXmlName name) const
 long CXmlNode::GetInt64Attribute(CXmlName name, EInt64Form form) const
 {
     const auto text = GetAttribute(name);
-    if (form == EInt64Form::UnsignedWrapped && !text.empty() && text.front() != '-')
-        return static_cast<long>(util::fromStr<unsigned long>(text));
+    unsigned long wrapped = 0;
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), wrapped);
+    if (form == EInt64Form::UnsignedWrapped && parsed.ec == std::errc() && parsed.ptr == text.data() + text.size())
+        return static_cast<long>(wrapped);
     return util::fromStr<long>(text);
 }
 

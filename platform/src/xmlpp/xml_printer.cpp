@@ -75,8 +75,6 @@ void printStart(const tinyxml2::XMLNode& node, std::string& out)
     }
     else if (node.ToComment() != nullptr)
         out.append("<!--").append(node.Value()).append("-->");
-    else if (node.ToDeclaration() != nullptr)
-        out.append("<?").append(node.Value()).append("?>");
     else if (node.ToUnknown() != nullptr)
         out.append("<!").append(node.Value()).append(">");
 }

@@ -50,7 +50,8 @@ public:
     /// The local offset in force now, in seconds east of UTC.
     static long localUtcOffsetSecs();
 
-    /// Sets the time of day; throws exc::CRuntimeExc for an hour above 23, a minute or a second above 59, and negatives.
+    /// Sets the time of day; throws exc::CRuntimeExc for an hour above 23, a minute or a second above 59, and
+    /// negatives.
     void setTime(int hours, int minutes, int seconds);
 
     /// Sets the date, months counted from 1; throws the calendar's own error (a std::out_of_range) for a false date.

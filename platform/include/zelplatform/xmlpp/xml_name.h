@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstring>
 #include <string>
 
 namespace xmlpp
@@ -11,15 +10,13 @@ namespace xmlpp
 class CXmlName
 {
 public:
-    CXmlName(const char* text) noexcept : m_text(text), m_size(std::strlen(text)) {}
-    CXmlName(const std::string& text) noexcept : m_text(text.c_str()), m_size(text.size()) {}
+    CXmlName(const char* text) noexcept : m_text(text) {}
+    CXmlName(const std::string& text) noexcept : m_text(text.c_str()) {}
 
     const char* c_str() const noexcept { return m_text; }
-    std::size_t size() const noexcept { return m_size; }
 
 private:
     const char* m_text;
-    std::size_t m_size;
 };
 
 } // namespace xmlpp

@@ -1,0 +1,53 @@
+#include <zelplatform/crypto/crypto.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+#include <zelplatform/util/memory.h>
+
+namespace
+{
+
+TEST(SecBufferTest, ErasesMemory)
+{
+    std::string text = "secret key";
+    util::SecureErase(text.data() + 2, 4);
+    EXPECT_EQ(text, std::string("se\0\0\0\0 key", 10));
+    util::SecureErase(nullptr, 0);
+}
+
+TEST(SecBufferTest, HoldsBytes)
+{
+    crypto::sec_buffer_t buffer;
+    for (int i = 0; i < 1000; ++i)
+        buffer.push_back(static_cast<char>(i));
+    crypto::sec_buffer_t copy = buffer;
+    EXPECT_EQ(copy, buffer);
+    const char* const bytes = buffer.data();
+    const crypto::sec_buffer_t moved = std::move(buffer);
+    EXPECT_EQ(moved.data(), bytes);
+    copy.back() = 'x';
+    EXPECT_NE(copy, moved);
+}
+
+TEST(SecBufferTest, HasOneAllocatorForAll)
+{
+    using Chars = crypto::sec_allocator_t<char>;
+    using Longs = std::allocator_traits<Chars>::rebind_alloc<long>;
+    static_assert(std::is_same_v<Longs, crypto::sec_allocator_t<long>>);
+    static_assert(std::allocator_traits<Chars>::is_always_equal::value);
+    EXPECT_TRUE(Chars() == Chars(Longs()));
+    EXPECT_FALSE(Chars() != Longs());
+
+    Longs allocator;
+    long* const block = allocator.allocate(3);
+    std::fill_n(block, 3, 7L);
+    EXPECT_EQ(block[2], 7);
+    allocator.deallocate(block, 3);
+}
+
+} // namespace
