@@ -27,8 +27,8 @@ struct ZELMODEL_API BackupJobCompression
     /// The name; throws "Unable to convert BackupJobCompression::type [%1] to string.".
     static std::string toStr(type value);
 
-    /// Reads a name, the older "ZlibLow" (Zstd3) and "ZlibHigh" (Zstd9) included; throws "Unable to convert string [%1] to
-    /// BackupJobCompression::type.".
+    /// Reads a name, the older "ZlibLow" (Zstd3) and "ZlibHigh" (Zstd9) included; throws "Unable to convert string [%1]
+    /// to BackupJobCompression::type.".
     static type fromStr(const std::string& text);
 
     /// The agent's level, "0" ... "4"; throws "Failed to convert compression type [%1] to level string ...".

@@ -17,8 +17,8 @@ namespace zelplatform::model
 {
 
 /// The settings document of one backup job. Written in the agent's form ("JobOptions"), read from that and from the
-/// managing server's form ("JobOptionsRoot"), which carries a part of the settings and is tried first. Fields are public
-/// and unchecked; a failed read leaves nothing behind.
+/// managing server's form ("JobOptionsRoot"), which carries a part of the settings and is tried first. Fields are
+/// public and unchecked; a failed read leaves nothing behind.
 struct ZELMODEL_API SBackupJobOptions
 {
     /// The attribute "Version" that is written; readers do not look at it.
@@ -27,12 +27,12 @@ struct ZELMODEL_API SBackupJobOptions
     /// Retention by days, 7 points and 7 days, the rest as setDefault says, then the block size.
     explicit SBackupJobOptions(KbBlockSize::type blockSize);
 
-    /// Sets compression Lz4, block size 1024 KB, deduplication on, no retries with 600000 ms between them, the schedule's
-    /// start and active full reset, and the default snapshot mode. Leaves the rest alone.
+    /// Sets compression Lz4, block size 1024 KB, deduplication on, no retries with 600000 ms between them, the
+    /// schedule's start and active full reset, and the default snapshot mode. Leaves the rest alone.
     void setDefault();
 
-    /// Restore points to keep, 1..730; verify first, then store. Throws "Number of restore points to keep on disk should
-    /// be ...".
+    /// Restore points to keep, 1..730; verify first, then store. Throws "Number of restore points to keep on disk
+    /// should be ...".
     void setMaxPoints(unsigned long count);
     static void verifyMaxPoints(unsigned long count);
 
@@ -44,13 +44,13 @@ struct ZELMODEL_API SBackupJobOptions
     /// written. Throws "BackupJobOptions: Converting to XML failed. ...".
     void toXml(const xml::xml_holder_t& parent) const;
 
-    /// Reads a node that holds "JobOptionsRoot" or "JobOptions". Retention by points with 0 points is refused; the upper
-    /// limit of the setters is not looked at. Throws "BackupJobOptions: Converting from XML failed. ...".
+    /// Reads a node that holds "JobOptionsRoot" or "JobOptions". Retention by points with 0 points is refused; the
+    /// upper limit of the setters is not looked at. Throws "BackupJobOptions: Converting from XML failed. ...".
     static SBackupJobOptions fromXml(const xml::xml_holder_t& node);
 
     /// Reads the managing server's form into the object; false, with the object untouched, when the node has no
-    /// "JobOptionsRoot". What the form does not carry keeps its value. Throws "BackupJobOptions: Converting QOR Job options
-    /// from XML failed. ..." for bad content, with the object untouched.
+    /// "JobOptionsRoot". What the form does not carry keeps its value. Throws "BackupJobOptions: Converting QOR Job
+    /// options from XML failed. ..." for bad content, with the object untouched.
     static bool tryParseQorJobOptions(const xml::xml_holder_t& node, SBackupJobOptions& out);
 
     /// Reads the agent's form. Throws "BackupJobOptions: Converting KIV Job options from XML failed. ...".

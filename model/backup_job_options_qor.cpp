@@ -60,7 +60,7 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting QOR Job options from XML failed.", cause);
+    exc::RegenExc("BackupJobOptions: Converting QOR Job options from XML failed.", cause);
 }
 
 } // namespace zelplatform::model

@@ -39,6 +39,13 @@ void readLegacySnapshotFlag(const xmlpp::CXmlNode& node, ESnapshotMode::type& mo
         mode = *isRequired ? ESnapshotMode::NoSnapshot : ESnapshotMode::SnapshotRequired;
 }
 
+SBackupJobOptions readQorJobOptions(const xml::xml_holder_t& node)
+{
+    SBackupJobOptions options(KbBlockSize::KbBlockSize1024);
+    SBackupJobOptions::tryParseQorJobOptions(node, options);
+    return options;
+}
+
 void readRetainDays(const xmlpp::CXmlNode& node, std::optional<unsigned long>& days)
 {
     const auto child = node.FindChildNode(names::RetainDays);
@@ -91,7 +98,7 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting to XML failed.", cause);
+    exc::RegenExc("BackupJobOptions: Converting to XML failed.", cause);
 }
 
 SBackupJobOptions SBackupJobOptions::parseKivJobOptions(const xml::xml_holder_t& node)
@@ -129,22 +136,20 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting KIV Job options from XML failed.", cause);
+    exc::RegenExc("BackupJobOptions: Converting KIV Job options from XML failed.", cause);
 }
 
 // The managing server's form is tried first, so "JobOptionsRoot" wins over "JobOptions".
 SBackupJobOptions SBackupJobOptions::fromXml(const xml::xml_holder_t& node)
 try
 {
-    SBackupJobOptions options(KbBlockSize::KbBlockSize1024);
-    if (!tryParseQorJobOptions(node, options))
-        options = parseKivJobOptions(node);
+    auto options = node.HasNode(names::JobOptionsRoot) ? readQorJobOptions(node) : parseKivJobOptions(node);
     checkMaxPoints(options);
     return options;
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting from XML failed.", cause);
+    exc::RegenExc("BackupJobOptions: Converting from XML failed.", cause);
 }
 
 std::string SBackupJobOptions::toString() const
@@ -156,7 +161,7 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting to string failed.", cause);
+    exc::RegenExc("BackupJobOptions: Converting to string failed.", cause);
 }
 
 SBackupJobOptions SBackupJobOptions::fromStr(const std::string& text)
@@ -166,7 +171,7 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("BackupJobOptions: Converting from string [%1] failed.", text, cause);
+    exc::RegenExc("BackupJobOptions: Converting from string [%1] failed.", text, cause);
 }
 
 } // namespace zelplatform::model

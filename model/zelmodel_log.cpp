@@ -1,3 +1,3 @@
-#include <zelmodel/log.h>
+#include <zelmodel/zelmodel_log.h>
 
 logging::log_section_t zelmodel_log("zelmodel");

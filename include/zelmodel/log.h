@@ -5,9 +5,4 @@
 /// skipped. Failures themselves are thrown and not logged. Where entries end up is decided by logging::set_sink;
 /// without a sink they are dropped.
 
-#include <zelmodel/export.h>
-
-#include <zelplatform/logging/logging.h>
-
-/// The section "zelmodel".
-extern ZELMODEL_API logging::log_section_t zelmodel_log;
+#include <zelmodel/zelmodel_log.h>

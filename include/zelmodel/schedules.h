@@ -1,8 +1,9 @@
 #pragma once
 
-/// Schedules: times of day, masks of week days and months, calendars that answer on which days something runs, the start
-/// of a job, its active and synthetic fulls, and the window of hours in which it may run. CScheduleOptions holds them all;
-/// CScheduleCalendar answers about dates, BackupWindow about hours. Everything has an XML form and a line of words.
+/// Schedules: times of day, masks of week days and months, calendars that answer on which days something runs, the
+/// start of a job, its active and synthetic fulls, and the window of hours in which it may run. CScheduleOptions holds
+/// them all; CScheduleCalendar answers about dates, BackupWindow about hours. Everything has an XML form and a line of
+/// words.
 
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/day_hour_matrix.h>

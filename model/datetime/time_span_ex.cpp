@@ -1,9 +1,8 @@
 #include <zelmodel/datetime/time_span_ex.h>
 
 #include <array>
-
-#include <locale.h>
-#include <time.h>
+#include <clocale>
+#include <ctime>
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>

@@ -14,7 +14,6 @@ namespace
 constexpr const char* TypeName = "CSize";
 constexpr double UnitFactor = 1024.0;
 constexpr double OneUnitDown = 1.0 / UnitFactor;
-constexpr double EndOfRange = 18446744073709551616.0; // 2^64
 constexpr unsigned SignificantDigits = 15;
 constexpr std::size_t DecimalsShown = 2;
 
@@ -29,9 +28,7 @@ CSize CSize::FromStr(const std::string& text)
     const auto number = util::fromStr<double>(util::str_trim(text.substr(0, numberEnd)));
     const auto unit = EDataSizeUnit::FromStr(util::str_trim(text.substr(numberEnd)));
     const auto bytes = unit > EDataSizeUnit::B ? number * std::pow(UnitFactor, static_cast<int>(unit)) : number;
-    if (!(bytes < EndOfRange))
-        throw exc::CRuntimeExc("Data size [%1] is out of range.", text);
-    return CSize(static_cast<unsigned long>(bytes));
+    return CSize(util::safe_cast<unsigned long>(bytes));
 }
 
 double CSize::ToNBytes(EDataSizeUnit::type& unit) const

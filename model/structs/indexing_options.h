@@ -42,8 +42,8 @@ struct ZELMODEL_API SIndexingOptions
     /// Throws "IndexingOptions: Failed to serialize to Xml. ..." for an unknown type.
     void ToXml(xmlpp::CXmlNode& owner) const;
 
-    /// Reads the child "Indexing" or, without it, the older attributes "IndexExcept", "IndexOnly" and "IndexAll" in this
-    /// order. Throws "IndexingOptions: Failed to deserialize from Xml. ...".
+    /// Reads the child "Indexing" or, without it, the older attributes "IndexExcept", "IndexOnly" and "IndexAll" in
+    /// this order. Throws "IndexingOptions: Failed to deserialize from Xml. ...".
     static SIndexingOptions FromXml(const xmlpp::CXmlNode& owner);
 
     /// One sentence for logs; folders follow the colon directly. Throws "Unknown type of indexing [%1].".

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include "support/failure_text.h"
+#include "support/expect_failure.h"
 
 using namespace zelplatform::model;
-using support::failureText;
+using zelmodel_test::failureText;
 
 namespace
 {

@@ -9,11 +9,12 @@
 #include <zelmodel/datetime/time_manager.h>
 
 #include <zelplatform/datetime/datetime.h>
+#include <zelplatform/exc/exc.h>
 
-#include "support/failure_text.h"
+#include "support/expect_failure.h"
 
 using datetime::CDateTime;
-using support::failureText;
+using zelmodel_test::failureText;
 using namespace zelplatform::model;
 
 namespace

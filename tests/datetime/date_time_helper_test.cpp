@@ -4,10 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include "support/failure_text.h"
+#include <zelplatform/exc/exc.h>
+
+#include "support/expect_failure.h"
 
 using datetime::CDateTime;
-using support::failureText;
+using zelmodel_test::failureText;
 using zelplatform::model::CDateTimeHelper;
 using zelplatform::model::EDateUnit;
 using zelplatform::model::structs::gfs::ESennightOfMonth;

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/failure_text.h"
+#include "support/expect_failure.h"
 
-using support::failureText;
+using zelmodel_test::failureText;
 using zelplatform::model::OibAlgorithm;
 
 namespace

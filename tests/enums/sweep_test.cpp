@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/failure_text.h"
+#include <zelplatform/exc/exc.h>
+
+#include "support/expect_failure.h"
 
 namespace sweep
 {
@@ -20,7 +22,7 @@ void PrintTo(const Case& sweepCase, std::ostream* out)
 namespace
 {
 
-using support::failureText;
+using zelmodel_test::failureText;
 
 std::vector<Case> allCases()
 {

@@ -108,8 +108,8 @@ TEST(BackupJobCompression, NormalizesAnyNumber)
     {
         int number;
         int expected;
-    } cases[] = {{0, 0},  {-1, 0}, {1, 1},  {2, 1},   {3, 1},  {4, 1},     {5, 5},      {6, 6},
-                 {7, 6},  {8, 6},  {9, 9},  {10, 9},  {-2, 9}, {100, 9},   {INT_MAX, 9}, {INT_MIN, 9}};
+    } cases[] = {{0, 0}, {-1, 0}, {1, 1}, {2, 1},  {3, 1},  {4, 1},   {5, 5},       {6, 6},
+                 {7, 6}, {8, 6},  {9, 9}, {10, 9}, {-2, 9}, {100, 9}, {INT_MAX, 9}, {INT_MIN, 9}};
     for (const auto& each : cases)
         EXPECT_EQ(each.expected, static_cast<int>(BackupJobCompression::Normalize(each.number))) << each.number;
 }

@@ -2,6 +2,7 @@
 
 #include <support/expect_failure.h>
 #include <support/golden.h>
+#include <zelplatform/xmlpp/xmlpp.h>
 
 #include "sample_jobs.h"
 
@@ -49,8 +50,7 @@ TEST(BackupJobOptions, DefaultsAfterConstruction)
 TEST(BackupJobOptions, ConstructorTakesAnyBlockSize)
 {
     for (const int number : {0, 1, 2, 3, 4, 5, 6, 42})
-        EXPECT_EQ(number,
-                  static_cast<int>(SBackupJobOptions(static_cast<KbBlockSize::type>(number)).blockSize));
+        EXPECT_EQ(number, static_cast<int>(SBackupJobOptions(static_cast<KbBlockSize::type>(number)).blockSize));
 }
 
 TEST(BackupJobOptions, SetDefaultTouchesOnlyItsOwnFields)

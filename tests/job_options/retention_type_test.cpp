@@ -32,8 +32,7 @@ TEST(RetentionType, CountOfTheKindsConvertsLikeAKind)
 TEST(RetentionType, RefusesUnknownTexts)
 {
     for (const std::string text : {"", "cycles", "CYCLES", "Cycles ", " Days", "days", "number", "0", "1", "Day"})
-        EXPECT_EQ("Failed to convert retention type from string.",
-                  failureText([&] { ERetentionType::FromStr(text); }))
+        EXPECT_EQ("Failed to convert retention type from string.", failureText([&] { ERetentionType::FromStr(text); }))
             << text;
     EXPECT_EQ("Failed to convert retention type from string.",
               failureText([] { ERetentionType::FromStr(std::string("Days\0", 5)); }));

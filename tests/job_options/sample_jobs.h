@@ -38,8 +38,8 @@ inline zelplatform::model::SBackupJobOptions fullJob()
     job.productSpecific = "<p a=\"1\"/>\n";
 
     CMonthMask quarters(false);
-    for (const auto month : {datetime::EMonth::January, datetime::EMonth::April, datetime::EMonth::July,
-                             datetime::EMonth::October})
+    for (const auto month :
+         {datetime::EMonth::January, datetime::EMonth::April, datetime::EMonth::July, datetime::EMonth::October})
         quarters.SetMonth(month, true);
     CWeekMask saturday(false);
     saturday.SetDay(datetime::EDayOfWeek::Saturday, true);

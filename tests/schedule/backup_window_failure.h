@@ -11,8 +11,8 @@
 namespace zelmodel_test
 {
 
-/// The text of the failure that the action throws as a pointer; the pointer is deleted. A test failure when a handler of
-/// std::exception& sees anything, or when nothing is thrown.
+/// The text of the failure that the action throws as a pointer; the pointer is deleted. A test failure when a handler
+/// of std::exception& sees anything, or when nothing is thrown.
 template <class F>
 std::string pointerFailureText(F&& action)
 {

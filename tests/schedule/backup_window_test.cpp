@@ -141,10 +141,11 @@ TEST(BackupWindowValue, MondayHoursCloseAtFive)
 
 TEST(BackupWindowValue, ClosesAcrossDaysWeeksMonthsAndYears)
 {
-    const auto window = windowOf(EScheduleWindowKind::Disabled, {"00-03, 22-24", "00-24", "00-01", "", "", "23-24", "00-24"});
-    for (const auto& row : {SClosing{"2024-03-02 23:30:00", "2024-03-03 03:00:00"},  // Saturday into Sunday
-                            SClosing{"2024-03-01 23:00:00", "2024-03-03 03:00:00"},  // Friday, all Saturday, Sunday
-                            SClosing{"2024-03-03 22:10:00", "2024-03-05 01:00:00"},  // Sunday, all Monday, Tuesday
+    const auto window =
+        windowOf(EScheduleWindowKind::Disabled, {"00-03, 22-24", "00-24", "00-01", "", "", "23-24", "00-24"});
+    for (const auto& row : {SClosing{"2024-03-02 23:30:00", "2024-03-03 03:00:00"}, // Saturday into Sunday
+                            SClosing{"2024-03-01 23:00:00", "2024-03-03 03:00:00"}, // Friday, all Saturday, Sunday
+                            SClosing{"2024-03-03 22:10:00", "2024-03-05 01:00:00"}, // Sunday, all Monday, Tuesday
                             SClosing{"2024-03-03 02:59:59", "2024-03-03 03:00:00"},
                             SClosing{"2024-03-03 03:00:00", "2024-03-03 03:00:00"},
                             SClosing{"2024-06-29 12:00:00", "2024-06-30 03:00:00"},
@@ -193,8 +194,8 @@ TEST(BackupWindowValue, ClosingTimeKeepsTheUtcFlag)
 
 TEST(BackupWindowText, Intervals)
 {
-    const char* const texts[] = {"",      "08-17",        "00-03, 22-24", "00-24",      "23-24",
-                                 "00-01", "09-10, 12-13, 15-16", "06-24", "00-23",      "01-24"};
+    const char* const texts[] = {"",      "08-17", "00-03, 22-24", "00-24", "23-24", "00-01", "09-10, 12-13, 15-16",
+                                 "06-24", "00-23", "01-24"};
     for (const auto kind : bothKinds)
         for (const char* text : texts)
             for (int day = 0; day < 7; ++day)
@@ -209,7 +210,8 @@ TEST(BackupWindowText, Intervals)
 
 TEST(BackupWindowText, IntervalsAreWrittenInOneForm)
 {
-    const auto window = windowOf(EScheduleWindowKind::Disabled, {"8-9, 9-12", "20-24, 0-3", "05-05, 07-03", "001-0002"});
+    const auto window =
+        windowOf(EScheduleWindowKind::Disabled, {"8-9, 9-12", "20-24, 0-3", "05-05, 07-03", "001-0002"});
     EXPECT_EQ("08-12", window.getIntervals(0));
     EXPECT_EQ("00-03, 20-24", window.getIntervals(1));
     EXPECT_EQ("", window.getIntervals(2));

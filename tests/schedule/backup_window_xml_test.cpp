@@ -151,10 +151,11 @@ TEST(BackupWindowXml, IsAddedBehindOtherElements)
 
 TEST(BackupWindowXml, AttributesMayStandInAnyOrder)
 {
-    for (const char* text : {"<ScheduleWindow Kind=\"1\" Minutes=\"5\"><Days><Monday Intervals=\"01-02\"/></Days></ScheduleWindow>",
-                             "<ScheduleWindow Minutes=\"5\" Kind=\"1\"><Days><Monday Intervals=\"01-02\"/></Days></ScheduleWindow>",
-                             "<ScheduleWindow a=\"1\" Kind=\"1\" b=\"2\" Minutes=\"5\" c=\"3\"><Other/><Days x=\"y\">"
-                             "<Monday Note=\"n\" Intervals=\"01-02\" Kind=\"0\"/></Days><Days2/></ScheduleWindow>"})
+    for (const char* text :
+         {"<ScheduleWindow Kind=\"1\" Minutes=\"5\"><Days><Monday Intervals=\"01-02\"/></Days></ScheduleWindow>",
+          "<ScheduleWindow Minutes=\"5\" Kind=\"1\"><Days><Monday Intervals=\"01-02\"/></Days></ScheduleWindow>",
+          "<ScheduleWindow a=\"1\" Kind=\"1\" b=\"2\" Minutes=\"5\" c=\"3\"><Other/><Days x=\"y\">"
+          "<Monday Note=\"n\" Intervals=\"01-02\" Kind=\"0\"/></Days><Days2/></ScheduleWindow>"})
     {
         const auto window = read(text);
         EXPECT_EQ(5, window->getHourlyOffsetMinutes()) << text;
@@ -165,8 +166,9 @@ TEST(BackupWindowXml, AttributesMayStandInAnyOrder)
 
 TEST(BackupWindowXml, DaysMayStandInAnyOrderAmongCommentsAndText)
 {
-    const auto window = read(withDays("<!-- week end --><Saturday Intervals=\"01-02\"/>text<!-- - --><Sunday Intervals=\"03-04\"/>"
-                                      "<Friday/><Monday Intervals=\"\"/><Tuesday><Intervals/></Tuesday>"));
+    const auto window =
+        read(withDays("<!-- week end --><Saturday Intervals=\"01-02\"/>text<!-- - --><Sunday Intervals=\"03-04\"/>"
+                      "<Friday/><Monday Intervals=\"\"/><Tuesday><Intervals/></Tuesday>"));
     EXPECT_EQ("03-04", window->getIntervals(0));
     for (int day = 1; day < 6; ++day)
         EXPECT_EQ("", window->getIntervals(day)) << day;
@@ -186,19 +188,21 @@ TEST(BackupWindowXml, MinutesThatAreRead)
          {SMinutes{"0", 0}, SMinutes{"60", 60}, SMinutes{"0060", 60}, SMinutes{"-300", -300}, SMinutes{"-0", 0},
           SMinutes{"18446744073709551316", -300}, SMinutes{"18446744073709551615", -1}, SMinutes{"2147483647", INT_MAX},
           SMinutes{"18446744071562067968", INT_MIN}, SMinutes{"-2147483648", INT_MIN}})
-        EXPECT_EQ(row.minutes, read(withAttributes(std::string("Kind=\"0\" Minutes=\"") + row.text + "\""))
-                                   ->getHourlyOffsetMinutes())
+        EXPECT_EQ(
+            row.minutes,
+            read(withAttributes(std::string("Kind=\"0\" Minutes=\"") + row.text + "\""))->getHourlyOffsetMinutes())
             << row.text;
 }
 
 TEST(BackupWindowXml, MinutesThatAreWritten)
 {
-    for (const auto& row :
-         {SMinutes{"0", 0}, SMinutes{"60", 60}, SMinutes{"18446744073709551316", -300},
-          SMinutes{"18446744073709551615", -1}, SMinutes{"2147483647", INT_MAX}, SMinutes{"18446744071562067968", INT_MIN}})
+    for (const auto& row : {SMinutes{"0", 0}, SMinutes{"60", 60}, SMinutes{"18446744073709551316", -300},
+                            SMinutes{"18446744073709551615", -1}, SMinutes{"2147483647", INT_MAX},
+                            SMinutes{"18446744071562067968", INT_MIN}})
     {
         const std::string text = textOf(BackupWindow(DayHourMatrix(EScheduleWindowKind::Enabled), row.minutes));
-        EXPECT_EQ(std::string("<ScheduleWindow Minutes=\"") + row.text + "\" Kind=\"0\"><Days/></ScheduleWindow>", text);
+        EXPECT_EQ(std::string("<ScheduleWindow Minutes=\"") + row.text + "\" Kind=\"0\"><Days/></ScheduleWindow>",
+                  text);
         EXPECT_EQ(row.minutes, read(text)->getHourlyOffsetMinutes()) << row.text;
     }
 }
@@ -242,8 +246,8 @@ TEST(BackupWindowFailures, NumbersWithRubbish)
 
 TEST(BackupWindowFailures, KindOutsideTheRangeOfAnInt)
 {
-    for (const char* kind : {"2147483648", "-2147483649", "4294967296", "4294967297", "9223372036854775807",
-                             "-9223372036854775808"})
+    for (const char* kind :
+         {"2147483648", "-2147483649", "4294967296", "4294967297", "9223372036854775807", "-9223372036854775808"})
         EXPECT_EQ("Unable to cast value from [long] to [zelplatform::model::structs::EScheduleWindowKind].",
                   failureText([&] { read(withAttributes(std::string("Minutes=\"0\" Kind=\"") + kind + "\"")); }))
             << kind;
@@ -273,7 +277,8 @@ TEST(BackupWindowFailures, DaysAndIntervals)
 TEST(BackupWindowQuirks, MissingDaysAreTheDefaults)
 {
     for (const int kind : {0, 1})
-        for (const char* rest : {"/>", "></ScheduleWindow>", "><!-- none --></ScheduleWindow>", "><Monday Intervals=\"01-02\"/></ScheduleWindow>"})
+        for (const char* rest : {"/>", "></ScheduleWindow>", "><!-- none --></ScheduleWindow>",
+                                 "><Monday Intervals=\"01-02\"/></ScheduleWindow>"})
         {
             const auto window =
                 read("<ScheduleWindow Minutes=\"0\" Kind=\"" + std::to_string(kind) + "\"" + std::string(rest));
@@ -291,12 +296,13 @@ TEST(BackupWindowQuirks, RepeatedDaysAddUpButOnlyTheFirstDaysAreRead)
 
 TEST(BackupWindowQuirks, MinutesAreCutToAnInt)
 {
-    for (const auto& row : {SMinutes{"4294967297", 1}, SMinutes{"4294967296", 0}, SMinutes{"2147483648", INT_MIN},
-                            SMinutes{"4294967295", -1}, SMinutes{"-2147483649", INT_MAX},
-                            SMinutes{"9223372036854775807", -1}, SMinutes{"-9223372036854775808", 0},
-                            SMinutes{"9223372036854775808", 0}})
-        EXPECT_EQ(row.minutes, read(withAttributes(std::string("Kind=\"0\" Minutes=\"") + row.text + "\""))
-                                   ->getHourlyOffsetMinutes())
+    for (const auto& row :
+         {SMinutes{"4294967297", 1}, SMinutes{"4294967296", 0}, SMinutes{"2147483648", INT_MIN},
+          SMinutes{"4294967295", -1}, SMinutes{"-2147483649", INT_MAX}, SMinutes{"9223372036854775807", -1},
+          SMinutes{"-9223372036854775808", 0}, SMinutes{"9223372036854775808", 0}})
+        EXPECT_EQ(
+            row.minutes,
+            read(withAttributes(std::string("Kind=\"0\" Minutes=\"") + row.text + "\""))->getHourlyOffsetMinutes())
             << row.text;
 }
 
@@ -304,7 +310,8 @@ TEST(BackupWindowQuirks, UnknownKindsOfDocumentsAreThrownAsPointers)
 {
     for (const char* kind : {"2", "-1", "3", "100", "2147483647", "-2147483648"})
     {
-        const auto document = CXmlDocument::Unserialize(withAttributes(std::string("Minutes=\"0\" Kind=\"") + kind + "\""));
+        const auto document =
+            CXmlDocument::Unserialize(withAttributes(std::string("Minutes=\"0\" Kind=\"") + kind + "\""));
         EXPECT_EQ("An unsupported schedule window kind occurred: [].",
                   pointerFailureText([&] { BackupWindow::getMatrix(document.GetRootNode()); }))
             << kind;

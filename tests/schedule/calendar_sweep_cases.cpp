@@ -77,7 +77,7 @@ std::string calendarDocument(const CalendarRules& rules)
     text += "/><MonthMask";
     for (std::size_t month = 0; month < rules.months.size(); ++month)
         text += std::string(" ") + MonthNames[month] + "=\"" + word(rules.months[month]) + "\"";
-    return text + "/></Schedule>";
+    return text + "/><Time Hours=\"22\" Minutes=\"30\"/></Schedule>";
 }
 
 std::vector<SweepCase> weeklyCases()

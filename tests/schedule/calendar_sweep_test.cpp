@@ -13,6 +13,8 @@ namespace
 
 constexpr std::size_t SampleStep = 331;
 constexpr std::size_t NextOfSample = 8;
+/// An answer of none takes a search over 41 years: the full run asks for it on every 97th day only.
+constexpr std::size_t NextOfNone = 97;
 
 bool isFullRun()
 {
@@ -42,20 +44,6 @@ std::string previousFailureText(std::size_t index, const std::string& cause)
            cause;
 }
 
-/// What the library answers, as text; the judge's answers are written the same way.
-template <class Question>
-std::string answerOf(const Question& question)
-{
-    try
-    {
-        return question();
-    }
-    catch (const std::exception& failure)
-    {
-        return failure.what();
-    }
-}
-
 void judgeScheduled(const SweepCase& sweep, std::size_t index)
 {
     const Verdict expected = isScheduled(sweep.rules, allDays()[index]);
@@ -77,21 +65,23 @@ void judgePrevious(const SweepCase& sweep, std::size_t index, std::size_t expect
 
 void judgeNext(const SweepCase& sweep, std::size_t index, const NextAnswer& expected)
 {
-    const std::string found = answerOf(
-        [&]
-        {
-            const auto next = sweep.calendar.GetNextScheduleDateFromDate(CDate(dateTime(index)));
-            return next ? next->toString() : std::string("none");
-        });
+    const auto ask = [&] { return sweep.calendar.GetNextScheduleDateFromDate(CDate(dateTime(index))); };
     if (expected.kind == Verdict::Fails)
     {
+        const std::string failure = failureText(ask);
         const std::string cause = scheduledFailure(sweep.rules);
-        ASSERT_GE(found.size(), cause.size());
-        ASSERT_EQ(found.substr(found.size() - cause.size()), cause) << "from " << allDays().text(index);
+        ASSERT_GE(failure.size(), cause.size());
+        ASSERT_EQ(failure.substr(failure.size() - cause.size()), cause) << "from " << allDays().text(index);
         return;
     }
-    ASSERT_EQ(found, expected.kind == Verdict::On ? allDays().text(expected.index) : "none")
-        << "from " << allDays().text(index);
+    const std::optional<CDate> found = ask();
+    ASSERT_EQ(found.has_value(), expected.kind == Verdict::On) << "from " << allDays().text(index);
+    if (found)
+    {
+        ASSERT_TRUE(*found == CDate(dateTime(expected.index)))
+            << "from " << allDays().text(index) << " came " << found->toString() << ", not "
+            << allDays().text(expected.index);
+    }
 }
 
 void judgeAll(const SweepCase& sweep, std::size_t first, std::size_t last)
@@ -106,7 +96,8 @@ void judgeAll(const SweepCase& sweep, std::size_t first, std::size_t last)
         judgeScheduled(sweep, index);
         if (hasPrevious)
             judgePrevious(sweep, index, previous[index - first]);
-        judgeNext(sweep, index, next[index - first]);
+        if (next[index - first].kind != Verdict::Off || index % NextOfNone == 0)
+            judgeNext(sweep, index, next[index - first]);
     }
 }
 

@@ -22,8 +22,8 @@ struct SCell
     int hour;
 };
 
-constexpr SCell falseCells[] = {{7, 0},  {0, 24},      {7, 24},      {6, 24},      {INT_MAX, 0},       {0, INT_MAX},
-                                {-1, 0}, {0, -1},      {-1, 24},     {1, -1},      {INT_MIN, 0},       {0, INT_MIN},
+constexpr SCell falseCells[] = {{7, 0},   {0, 24},      {7, 24},      {6, 24},      {INT_MAX, 0},      {0, INT_MAX},
+                                {-1, 0},  {0, -1},      {-1, 24},     {1, -1},      {INT_MIN, 0},      {0, INT_MIN},
                                 {-1, -1}, {INT_MAX, 1}, {8, INT_MIN}, {INT_MIN, 5}, {INT_MAX, INT_MAX}};
 
 } // namespace

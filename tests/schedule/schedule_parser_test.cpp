@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <zelmodel/structs/schedule/schedule_parser.h>
+#include <zelplatform/datetime/names.h>
 
 #include "backup_window_failure.h"
 #include "support/expect_failure.h"
@@ -53,8 +54,9 @@ constexpr SAccepted accepted[] = {
     {"01-02, 03-04, 05-06", ".x.x.x.................."},
 };
 
-constexpr const char* emptyIntervals[] = {"05-05", "07-03", "24-24", "24-05", "30-30", "99-12", "00-00", "23-23",
-                                          "2147483647-0", "2147483647-2147483647", "05-05, 07-03"};
+constexpr const char* emptyIntervals[] = {"05-05",       "07-03", "24-24", "24-05",        "30-30",
+                                          "99-12",       "00-00", "23-23", "2147483647-0", "2147483647-2147483647",
+                                          "05-05, 07-03"};
 
 struct SRefused
 {

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/failure_text.h"
+#include "support/expect_failure.h"
 
-using support::failureText;
+using zelmodel_test::failureText;
 using zelplatform::CSize;
 using zelplatform::EDataSizeUnit;
 
@@ -132,8 +132,8 @@ TEST(SizeTest, RefusesWhatIsNoSize)
         {"-1 K", "Unable to convert string [] to [double]."},
         {" 2 KB", "Unable to convert string [] to [double]."},
         {"1.2.3 K", "Unable to convert string [1.2.3] to [double]."},
-        {"16 EB", "Data size [16 EB] is out of range."},
-        {"18446744073709551616 B", "Data size [18446744073709551616 B] is out of range."},
+        {"16 EB", "Unable to cast value from [double] to [unsigned long]."},
+        {"18446744073709551616 B", "Unable to cast value from [double] to [unsigned long]."},
     };
     for (const auto& [text, chain] : rows)
         EXPECT_EQ(failureText([input = text] { CSize::FromStr(input); }), chain);

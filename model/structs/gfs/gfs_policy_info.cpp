@@ -1,6 +1,6 @@
 #include <zelmodel/structs/gfs/gfs_policy_info.h>
 
-#include <zelmodel/log.h>
+#include <zelmodel/zelmodel_log.h>
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/logging/logging.h>
 #include <zelplatform/util/util.h>
@@ -29,9 +29,8 @@ void logBadBeginTime(const std::string& text, const char* elementName, const dat
 {
     if (text == NoBeginTime)
     {
-        zelmodel_log.warn(
-            util::str_format("[%1] effective datetime 01/01/0001 00:00:00 is treated as %2", elementName,
-                             replacement.toStdString(datetime::CDateTime::QorDateFormat)));
+        zelmodel_log.warn(util::str_format("[%1] effective datetime 01/01/0001 00:00:00 is treated as %2", elementName,
+                                           replacement.toStdString(datetime::CDateTime::QorDateFormat)));
         return;
     }
     logging::log_section_t section("SGfsPolicyInfoBase::FromXml");

@@ -41,8 +41,8 @@ public:
     /// True when the hour of the moment is open.
     bool isWindowOpen(const datetime::CDateTime& moment) const;
 
-    /// The start of the first closed hour after an open moment, the moment itself when it is closed, and nothing when the
-    /// window never closes. Keeps the moment's UTC flag.
+    /// The start of the first closed hour after an open moment, the moment itself when it is closed, and nothing when
+    /// the window never closes. Keeps the moment's UTC flag.
     std::optional<datetime::CDateTime> getWindowClosingTime(const datetime::CDateTime& moment) const;
 
     /// The text that lists the hours of the day which differ from the kind's default; empty when none does.

@@ -48,8 +48,8 @@ public:
     /// "1" ... "31", "Last".
     static std::vector<std::string> GetMonthDayStrList();
 
-    /// Of the given months those that never have the day; February counts 29 days. The last day and a day that is not set
-    /// fit every month.
+    /// Of the given months those that never have the day; February counts 29 days. The last day and a day that is not
+    /// set fit every month.
     static CMonthMask GetDayNotFitMonths(const CDayOfMonth& day, const CMonthMask& months);
 
     /// Sets the attribute "DayOfMonth" of the node. Throws "DayOfMonth: Failed to serialize to Xml. ...".

@@ -1,5 +1,7 @@
 #include <zelmodel/structs/schedule/full_backup_options.h>
 
+#include <utility>
+
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
@@ -23,8 +25,8 @@ CFullBackupOptions::CFullBackupOptions(EFullBackupType type) : m_isEnabled(false
     m_type = type;
 }
 
-CFullBackupOptions::CFullBackupOptions(const CScheduleCalendar& calendar, bool enabled, EFullBackupType type)
-    : m_calendar(calendar), m_isEnabled(enabled), m_type(type)
+CFullBackupOptions::CFullBackupOptions(CScheduleCalendar calendar, bool enabled, EFullBackupType type)
+    : m_calendar(std::move(calendar)), m_isEnabled(enabled), m_type(type)
 {
 }
 

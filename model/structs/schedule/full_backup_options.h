@@ -32,7 +32,7 @@ public:
     /// Disabled, on the first day of every month.
     explicit CFullBackupOptions(EFullBackupType type);
 
-    CFullBackupOptions(const CScheduleCalendar& calendar, bool enabled, EFullBackupType type);
+    CFullBackupOptions(CScheduleCalendar calendar, bool enabled, EFullBackupType type);
 
     void SetWeekly(const CWeekMask& weekMask);
     void SetMonthly(EWeekDayNumber::type weekDayNumber, datetime::EDayOfWeek::type dayOfWeek,

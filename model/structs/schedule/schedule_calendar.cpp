@@ -39,9 +39,11 @@ bool isEveryDayOfWeek(const CScheduleCalendar& calendar)
 } // namespace
 
 CScheduleCalendar::CScheduleCalendar()
-    : m_type(EScheduleType::Monthly), m_weekMask(false), m_monthMask(true), m_weekDayNumber(EWeekDayNumber::First)
+    : m_type(EScheduleType::Monthly),
+      m_weekMask(onlyDay(EDayOfWeek::Monday)),
+      m_monthMask(true),
+      m_weekDayNumber(EWeekDayNumber::First)
 {
-    SetDefaultMonthly(std::nullopt);
 }
 
 CScheduleCalendar::CScheduleCalendar(EScheduleType::type type, const std::optional<CScheduleTime>& time,

@@ -20,9 +20,9 @@ namespace zelplatform::model::structs
 {
 
 /// On which days, and at what time or with what period, something runs: weekly, monthly on a day or on a week day,
-/// periodically or continuously. Every setter puts the fields that its kind does not use into a fixed state, so that two
-/// calendars that mean the same compare equal. A calendar read from a document is taken as it stands: it may hold what
-/// the setters would refuse.
+/// periodically or continuously. Every setter puts the fields that its kind does not use into a fixed state, so that
+/// two calendars that mean the same compare equal. A calendar read from a document is taken as it stands: it may hold
+/// what the setters would refuse.
 class ZELMODEL_API CScheduleCalendar
 {
 public:
@@ -97,8 +97,9 @@ public:
     /// The type of a calendar from a document without one.
     EScheduleType::type DetermineOldScheduleType(bool periodical) const noexcept;
 
-    /// True when the calendar covers the date; the time of day plays no part, and a recurrent calendar covers every date.
-    /// Throws "ScheduleCalendar: Failed to check that date [%1] is on. ..." for a calendar that cannot be evaluated.
+    /// True when the calendar covers the date; the time of day plays no part, and a recurrent calendar covers every
+    /// date. Throws "ScheduleCalendar: Failed to check that date [%1] is on. ..." for a calendar that cannot be
+    /// evaluated.
     bool IsScheduledAtDate(const datetime::CDateTime& date) const;
 
     /// IsScheduledAtDate of the manager's local time.
@@ -109,15 +110,15 @@ public:
     /// for a recurrent calendar and for one without days or months.
     CDate GetPrevScheduleDateFromDate(const CDate& date) const;
 
-    /// The first scheduled day after the date, or nothing when none comes within 41 years. Agrees with IsScheduledAtDate
-    /// on every day and throws as it does; nothing is scheduled beyond the year 9999.
+    /// The first scheduled day after the date, or nothing when none comes within 41 years. Agrees with
+    /// IsScheduledAtDate on every day and throws as it does; nothing is scheduled beyond the year 9999.
     std::optional<CDate> GetNextScheduleDateFromDate(const CDate& date) const;
 
     friend ZELMODEL_API bool operator==(const CScheduleCalendar& a, const CScheduleCalendar& b);
     friend bool operator!=(const CScheduleCalendar& a, const CScheduleCalendar& b) { return !(a == b); }
 
-    /// The calendar in one line of words: "First Monday of every month at 22 hours". The time of day reads as a duration,
-    /// on purpose.
+    /// The calendar in one line of words: "First Monday of every month at 22 hours". The time of day reads as a
+    /// duration, on purpose.
     std::string ToLogStr(bool shortNames) const;
 
     /// Writes attributes and children into the owner's element. Throws "ScheduleCalendar: Failed to serialize to Xml.

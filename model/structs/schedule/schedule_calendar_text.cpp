@@ -11,8 +11,7 @@ std::string CScheduleCalendar::ToLogStr(bool shortNames) const
     switch (m_type)
     {
     case EScheduleType::Continuously: return "Continuously";
-    case EScheduleType::Periodically:
-        return util::str_format("Every %1 (periodical)", GetTime().ToUserFriendlyStr());
+    case EScheduleType::Periodically: return util::str_format("Every %1 (periodical)", GetTime().ToUserFriendlyStr());
     case EScheduleType::Weekly:
     case EScheduleType::Monthly: break;
     default: throw exc::CRuntimeExc("Unsupported schedule type [%1]", util::toStr(m_type));

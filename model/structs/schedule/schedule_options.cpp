@@ -18,10 +18,7 @@ namespace names = detail::schedule_names;
 
 } // namespace
 
-CScheduleOptions::CScheduleOptions() : m_activeFull(ActiveFull), m_syntheticFull(SyntheticFull)
-{
-    ResetBoth();
-}
+CScheduleOptions::CScheduleOptions() : m_activeFull(ActiveFull), m_syntheticFull(SyntheticFull) {}
 
 CScheduleOptions::CScheduleOptions(CStartJobScheduleOptions&& jobStart, CFullBackupOptions&& activeFull,
                                    CFullBackupOptions&& syntheticFull) noexcept
@@ -161,8 +158,7 @@ try
     const xmlpp::CXmlDocument document;
     auto top = document.ToNode();
     ToXml(top);
-    stream << m_jobStart.IsEnabled() << static_cast<std::int32_t>(m_jobStart.GetScheduleType())
-           << document.Serialize();
+    stream << m_jobStart.IsEnabled() << static_cast<std::int32_t>(m_jobStart.GetScheduleType()) << document.Serialize();
 }
 catch (std::exception& cause)
 {

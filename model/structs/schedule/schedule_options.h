@@ -14,8 +14,8 @@ namespace zelplatform::model::structs
 {
 
 /// The whole schedule of a backup job: when it starts, when it makes active and synthetic fulls, and in which hours it
-/// may run. The window is in no stored form of the schedule, on purpose: it travels in a document of its own. One thread
-/// may replace the window while others read or copy the object; the other fields are plain.
+/// may run. The window is in no stored form of the schedule, on purpose: it travels in a document of its own. One
+/// thread may replace the window while others read or copy the object; the other fields are plain.
 class ZELMODEL_API CScheduleOptions
 {
 public:
@@ -51,7 +51,8 @@ public:
     /// True when the job start or the active full is enabled; the synthetic full is not asked.
     bool IsAtLeastOneEnabled() const noexcept;
 
-    /// Compares the start options and the active full's calendar and flag; leaves out the synthetic full and the window.
+    /// Compares the start options and the active full's calendar and flag; leaves out the synthetic full and the
+    /// window.
     friend ZELMODEL_API bool operator==(const CScheduleOptions& a, const CScheduleOptions& b);
     friend bool operator!=(const CScheduleOptions& a, const CScheduleOptions& b) { return !(a == b); }
 

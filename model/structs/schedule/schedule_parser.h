@@ -26,7 +26,8 @@ public:
     ScheduleParser& operator=(ScheduleParser&&) noexcept = default;
     virtual ~ScheduleParser();
 
-    /// The value of a listed hour: the kind's own number. Throws a pointer to a new exc::CRuntimeExc for an unknown kind.
+    /// The value of a listed hour: the kind's own number. Throws a pointer to a new exc::CRuntimeExc for an unknown
+    /// kind.
     static unsigned getParsingValue(EScheduleWindowKind kind);
 
     /// Lists the hours of the intervals on the day. The end hour is exclusive; an interval that ends before it starts

@@ -1,5 +1,7 @@
 #include <zelmodel/structs/schedule/start_job_schedule_options.h>
 
+#include <utility>
+
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
@@ -19,8 +21,8 @@ CStartJobScheduleOptions::CStartJobScheduleOptions() : m_isEnabled(false)
     Reset();
 }
 
-CStartJobScheduleOptions::CStartJobScheduleOptions(bool enabled, const std::optional<CScheduleCalendar>& calendar)
-    : m_isEnabled(enabled), m_calendar(calendar ? *calendar : CScheduleCalendar())
+CStartJobScheduleOptions::CStartJobScheduleOptions(bool enabled, std::optional<CScheduleCalendar> calendar)
+    : m_isEnabled(enabled), m_calendar(calendar ? *std::move(calendar) : CScheduleCalendar())
 {
 }
 
@@ -56,8 +58,7 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("%1: Failed set monthly schedule on day [%2].", ClassName, util::toStr(dayOfMonth.Get()),
-                       cause);
+    exc::RegenTraceExc("%1: Failed set monthly schedule on day [%2].", ClassName, util::toStr(dayOfMonth.Get()), cause);
 }
 
 void CStartJobScheduleOptions::SetPeriodically(std::uint8_t hours, std::uint8_t minutes)

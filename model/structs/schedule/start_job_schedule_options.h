@@ -25,7 +25,7 @@ public:
 
     /// The flag and, when given, the calendar; without one the calendar is its own default, the first Monday of every
     /// month.
-    CStartJobScheduleOptions(bool enabled, const std::optional<CScheduleCalendar>& calendar);
+    CStartJobScheduleOptions(bool enabled, std::optional<CScheduleCalendar> calendar);
 
     /// Hours and minutes are checked by the calendar. The failures begin with "CStartJobScheduleOptions: Failed set".
     void SetWeekly(std::uint8_t hours, std::uint8_t minutes, const CWeekMask& weekMask);
@@ -87,8 +87,9 @@ public:
     /// Adds the child "Schedule". Throws "CStartJobScheduleOptions: Failed to serialize to Xml. ...".
     void ToXml(xmlpp::CXmlNode& parent) const;
 
-    /// Reads the child "Schedule" in the current layout (versions 0 and 3) or an older one (no version, 1 and 2); a parent
-    /// without the child gives the default. Throws "CStartJobScheduleOptions: Failed to deserialize from Xml. ...".
+    /// Reads the child "Schedule" in the current layout (versions 0 and 3) or an older one (no version, 1 and 2); a
+    /// parent without the child gives the default. Throws "CStartJobScheduleOptions: Failed to deserialize from Xml.
+    /// ...".
     static CStartJobScheduleOptions FromXml(const xmlpp::CXmlNode& parent);
 
     /// Writes a 4-byte length and the XML text with "Schedule" at its top.

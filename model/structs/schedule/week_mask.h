@@ -63,8 +63,8 @@ public:
     /// The names joined with ", ".
     std::string ToLogStr(bool shortNames) const;
 
-    /// Adds the child "WeekMask" with one boolean attribute a day, Monday first. Throws "WeekMask: Failed to serialize to
-    /// Xml. ...".
+    /// Adds the child "WeekMask" with one boolean attribute a day, Monday first. Throws "WeekMask: Failed to serialize
+    /// to Xml. ...".
     void ToXml(xmlpp::CXmlNode& parent) const;
 
     /// Reads what ToXml writes; the child and all seven attributes must be there. Throws "WeekMask: Failed to
