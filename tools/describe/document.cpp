@@ -19,9 +19,9 @@ namespace
 using zelplatform::model::SBackupJobOptions;
 using zelplatform::model::structs::BackupWindow;
 using zelplatform::model::structs::CScheduleOptions;
-using zelplatform::model::structs::gfs::SMonthlyGfsPolicyInfoTraits;
 using zelplatform::model::structs::gfs::SGfsPolicyInfo;
 using zelplatform::model::structs::gfs::SGfsWeeklyPolicyInfoTraits;
+using zelplatform::model::structs::gfs::SMonthlyGfsPolicyInfoTraits;
 using zelplatform::model::structs::gfs::SYearlyGfsPolicyInfoTraits;
 
 struct KindRow
@@ -115,7 +115,8 @@ EDocumentKind Document::kind() const
     for (const auto* first : {job_names::JobOptionsRoot, job_names::JobOptions})
     {
         if (top.HasNode(first))
-            return first == job_names::JobOptionsRoot ? EDocumentKind::ServerJobOptions : EDocumentKind::AgentJobOptions;
+            return first == job_names::JobOptionsRoot ? EDocumentKind::ServerJobOptions
+                                                      : EDocumentKind::AgentJobOptions;
     }
     const auto root = m_xml.GetRootNode().GetName();
     top.HasNode(root);
@@ -140,14 +141,10 @@ Node Document::describe() const
         const auto* root = isServerForm ? job_names::JobOptionsRoot : job_names::JobOptions;
         return visitJobOptions(readJobOptions(top), Place(m_xml, top.GetFirstChildNode(root)), isServerForm);
     }
-    case EDocumentKind::ScheduleOptions:
-        return visitSchedule(readSchedule(), Place(m_xml, m_xml.GetRootNode()));
-    case EDocumentKind::LoneSchedule:
-        return visitSchedule(readSchedule(), Place(m_xml, top));
-    case EDocumentKind::ScheduleWindow:
-        return visitWindow(*readWindow(), Place(m_xml, m_xml.GetRootNode()));
-    case EDocumentKind::GfsPolicy:
-        break;
+    case EDocumentKind::ScheduleOptions: return visitSchedule(readSchedule(), Place(m_xml, m_xml.GetRootNode()));
+    case EDocumentKind::LoneSchedule: return visitSchedule(readSchedule(), Place(m_xml, top));
+    case EDocumentKind::ScheduleWindow: return visitWindow(*readWindow(), Place(m_xml, m_xml.GetRootNode()));
+    case EDocumentKind::GfsPolicy: break;
     }
     const auto root = m_xml.GetRootNode();
     const bool isShortNames = usesShortNames(root);

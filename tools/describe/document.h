@@ -34,8 +34,8 @@ public:
     /// Told by the element at the top; an unknown one is refused.
     EDocumentKind kind() const;
 
-    /// Everything that the document holds, as a tree. Throws what the library's reader of the kind throws, the pointer of
-    /// an unknown window kind included.
+    /// Everything that the document holds, as a tree. Throws what the library's reader of the kind throws, the pointer
+    /// of an unknown window kind included.
     Node describe() const;
 
     /// The schedule of job options or of a schedule; other kinds are refused.

@@ -44,11 +44,12 @@ Node visitRule(const std::optional<SGfsPolicyInfoBase<TTraits>>& rule, const Rul
                bool isShortNames)
 {
     if (!rule)
-        return makeField(words.name, words.label, "", "none", 0);
+        return makeDetail(words.name, words.label, "", "none", 0);
     const auto place = policy.child(SGfsPolicyInfoBase<TTraits>::getElementName(isShortNames));
     auto node = makeField(words.name, words.label, "", tellRule(*rule, words), place.line());
-    const auto detail = [&](const char* name, const char* label, const std::string& value, const char* attribute)
-    { node.children.push_back(makeDetail(name, label, value, value, place.lineOf(attribute))); };
+    const auto detail = [&](const char* name, const char* label, const std::string& value, const char* attribute) {
+        node.children.push_back(makeDetail(name, label, value, value, place.lineOf(attribute)));
+    };
     detail("isEnabled", "Enabled", flagText(rule->isEnabled), job_names::IsEnabled);
     detail("keepCount", "Kept", util::toStr(rule->keepCount),
            isShortNames ? TTraits::ShortKeepCount : TTraits::LongKeepCount);
@@ -58,18 +59,19 @@ Node visitRule(const std::optional<SGfsPolicyInfoBase<TTraits>>& rule, const Rul
     return node;
 }
 
-std::string tellPolicy(const SGfsPolicyInfo& policy, const Place& place)
+std::string tellPolicy(const SGfsPolicyInfo& policy)
 {
+    const bool hasRules = policy.weekly || policy.monthly || policy.yearly;
     if (policy.isEnabled)
-        return "on";
-    return place.isThere() ? "off, its rules are not in force" : "none";
+        return hasRules ? "on" : "on, but without rules";
+    return hasRules ? "off, its rules are not in force" : "off";
 }
 
 } // namespace
 
 Node visitGfsPolicy(const SGfsPolicyInfo& policy, const Place& place, bool isShortNames)
 {
-    auto node = makeField("gfsPolicy", "GFS policy", "", tellPolicy(policy, place), place.line());
+    auto node = makeField("gfsPolicy", "GFS policy", "", tellPolicy(policy), place.line());
     node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(policy.isEnabled), flagText(policy.isEnabled),
                                        place.lineOf(job_names::IsEnabled)));
     node.children.push_back(
@@ -78,8 +80,6 @@ Node visitGfsPolicy(const SGfsPolicyInfo& policy, const Place& place, bool isSho
         visitRule(policy.monthly, {"monthly", "Monthly", "monthly restore point"}, place, isShortNames));
     node.children.push_back(
         visitRule(policy.yearly, {"yearly", "Yearly", "yearly restore point"}, place, isShortNames));
-    for (auto& rule : node.children)
-        rule.isDetail = rule.isDetail || !place.isThere();
     return node;
 }
 

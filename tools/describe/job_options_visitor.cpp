@@ -54,12 +54,9 @@ std::string tellRetention(const SBackupJobOptions& job)
 {
     switch (job.retentionType)
     {
-    case ERetentionType::Cycles:
-        return "keeps " + countOf(job.maxPoints, "restore point");
-    case ERetentionType::Days:
-        return "keeps the restore points of " + countOf(job.maxDays, "day");
-    case ERetentionType::_number:
-        break;
+    case ERetentionType::Cycles: return "keeps " + countOf(job.maxPoints, "restore point");
+    case ERetentionType::Days: return "keeps the restore points of " + countOf(job.maxDays, "day");
+    case ERetentionType::_number: break;
     }
     return "of an unknown kind: neither points nor days";
 }
@@ -68,12 +65,9 @@ std::string tellSnapshot(ESnapshotMode::type mode)
 {
     switch (mode)
     {
-    case ESnapshotMode::SnapshotRequired:
-        return "required";
-    case ESnapshotMode::NoSnapshot:
-        return "none";
-    case ESnapshotMode::Hybrid:
-        break;
+    case ESnapshotMode::SnapshotRequired: return "required";
+    case ESnapshotMode::NoSnapshot: return "none";
+    case ESnapshotMode::Hybrid: break;
     }
     return "hybrid";
 }
@@ -83,14 +77,10 @@ std::string tellIndexing(const SIndexingOptions& indexing)
     const auto folders = textOr(indexing.folders, "none named");
     switch (indexing.type)
     {
-    case EIndexingType::IsOff:
-        return "off";
-    case EIndexingType::IndexAll:
-        return "all files and folders";
-    case EIndexingType::IndexOnly:
-        return "only these folders: " + folders;
-    case EIndexingType::IndexExcept:
-        break;
+    case EIndexingType::IsOff: return "off";
+    case EIndexingType::IndexAll: return "all files and folders";
+    case EIndexingType::IndexOnly: return "only these folders: " + folders;
+    case EIndexingType::IndexExcept: break;
     }
     return "all but these folders: " + folders;
 }
@@ -137,8 +127,7 @@ void visitRetention(const SBackupJobOptions& job, const Lines& lines, std::vecto
 
 void visitScripts(const SBackupJobOptions& job, const Lines& lines, std::vector<Node>& fields)
 {
-    const auto script = [&](const char* name, const char* label, const std::string& command, const char* attribute)
-    {
+    const auto script = [&](const char* name, const char* label, const std::string& command, const char* attribute) {
         fields.push_back(makeField(name, label, command, textOr(command, "none"), lines.ofAgents(attribute)));
     };
     script("preFreezeCommand", "Script before freezing", job.preFreezeCommand, job_names::PrefreezeCommand);
@@ -186,10 +175,11 @@ Node visitMissingSchedule(const SBackupJobOptions& job, const Place& missing)
 
 Node tellOtherForm(bool isServerForm)
 {
+    const std::string fields = OnlyInAgentForm;
     if (isServerForm)
-        return makeField("notCarried", "Not in this form", "", OnlyInAgentForm, 0);
-    return makeField("notCarried", "Only in this form", "",
-                     std::string("the managing server's cannot carry ") + OnlyInAgentForm, 0);
+        return makeField("notCarried", "Not in this form", "", fields, 0);
+    return makeField("notCarried", "Only in this form", "", fields + "; the managing server's form cannot carry them",
+                     0);
 }
 
 } // namespace
@@ -205,8 +195,8 @@ Node visitIndexing(const SIndexingOptions& indexing, const Place& owner)
     }
     auto node = makeField("indexing", "Indexing", "", tellIndexing(indexing), line);
     const auto type = EIndexingType::ToStr(indexing.type);
-    node.children.push_back(makeDetail("type", "Type", type, type,
-                                       element.isThere() ? element.lineOf(job_names::Type) : line));
+    node.children.push_back(
+        makeDetail("type", "Type", type, type, element.isThere() ? element.lineOf(job_names::Type) : line));
     node.children.push_back(makeDetail("folders", "Folders", indexing.folders, textOr(indexing.folders, "none"),
                                        element.isThere() ? element.lineOf(job_names::Folders) : line));
     return node;

@@ -64,8 +64,8 @@ Starts startsOfPeriod(const CScheduleTime& period, const CDateTime& first, const
         starts.moments.push_back(later(first, at));
     if (starts.moments.size() > MostListedStarts)
     {
-        starts.words = clockTime(starts.moments.front()) + " and every " + period.ToUserFriendlyStr() +
-                       " after, " + util::toStr(starts.moments.size()) + " starts";
+        starts.words = clockTime(starts.moments.front()) + " and every " + period.ToUserFriendlyStr() + " after, " +
+                       util::toStr(starts.moments.size()) + " starts";
         return starts;
     }
     for (const auto& moment : starts.moments)
@@ -209,8 +209,9 @@ Node describeNextDays(const CScheduleOptions& schedule, const BackupWindow* wind
         if (calendar.IsSchedulePeriodically() && starts.moments.empty())
             continue;
         auto row = makeField("day", "", isoDate(day), "", 0);
-        const auto add = [&row](const char* name, const char* label, const std::string& words)
-        { row.children.push_back(makeField(name, label, words, words, 0)); };
+        const auto add = [&row](const char* name, const char* label, const std::string& words) {
+            row.children.push_back(makeField(name, label, words, words, 0));
+        };
         add("date", "Date", isoDate(day));
         add("weekDay", "Day", weekDay(day));
         add("start", "Start", starts.words);
@@ -221,10 +222,12 @@ Node describeNextDays(const CScheduleOptions& schedule, const BackupWindow* wind
     return node;
 }
 
-std::string tellWhyNothingIsNext(const CScheduleOptions& schedule)
+std::string tellWhyNothingIsNext(const CScheduleOptions& schedule, EDocumentKind kind)
 {
+    if (kind == EDocumentKind::ServerJobOptions)
+        return "Nothing is scheduled: the managing server's form carries no schedule, so the job is disabled.";
     if (schedule.GetJobStartOptions().IsDisabled())
-        return "Nothing is scheduled: the job does not start by itself.";
+        return "Nothing is scheduled: the job is disabled.";
     return "Nothing is scheduled: no day comes within 41 years (" +
            tellCalendar(schedule.GetJobStartOptions().GetCalendar()) + ").";
 }

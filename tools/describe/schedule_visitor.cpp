@@ -29,14 +29,10 @@ std::string tellType(EScheduleType::type type)
 {
     switch (type)
     {
-    case EScheduleType::Weekly:
-        return "weekly";
-    case EScheduleType::Monthly:
-        return "monthly";
-    case EScheduleType::Periodically:
-        return "periodically";
-    case EScheduleType::Continuously:
-        return "continuously";
+    case EScheduleType::Weekly: return "weekly";
+    case EScheduleType::Monthly: return "monthly";
+    case EScheduleType::Periodically: return "periodically";
+    case EScheduleType::Continuously: return "continuously";
     }
     return "of an unknown kind";
 }
@@ -58,7 +54,7 @@ std::string tellDays(const CScheduleCalendar& calendar)
 {
     auto withoutTime = calendar;
     withoutTime.ResetTime();
-    const auto text = withoutTime.ToLogStr(false);
+    auto text = withoutTime.ToLogStr(false);
     if (hasDays(calendar))
         return text;
     if (calendar.GetWeekMask().IsAllDaysOff())
@@ -84,8 +80,8 @@ std::string tellEvaluableCalendar(const CScheduleCalendar& calendar)
 void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::vector<Node>& fields)
 {
     const auto type = calendar.GetScheduleType();
-    fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type),
-                                place.lineOf(schedule_names::Type)));
+    fields.push_back(
+        makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), place.lineOf(schedule_names::Type)));
     const auto timeElement = place.child(schedule_names::Time);
     const auto time = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
     fields.push_back(makeDetail("time", calendar.IsSchedulePeriodically() ? "Period" : "Time of day", time,
@@ -137,13 +133,12 @@ Node visitStart(const CStartJobScheduleOptions& start, const Place& parent)
 {
     const auto place = parent.child(schedule_names::Schedule);
     const auto& calendar = start.GetCalendar();
-    auto node = makeField("jobStart", "Start", "", tellOptions(start.IsEnabled(), calendar, place, "starts "),
-                          place.line());
+    auto node =
+        makeField("jobStart", "Start", "", tellOptions(start.IsEnabled(), calendar, place, "starts "), place.line());
     const bool isOld = place.isThere() && isOldLayout(place);
-    node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(start.IsEnabled()),
-                                       flagText(start.IsEnabled()),
-                                       isOld ? parent.lineOf(schedule_names::Schedule)
-                                             : place.lineOf(schedule_names::IsEnabled)));
+    node.children.push_back(
+        makeDetail("isEnabled", "Enabled", flagText(start.IsEnabled()), flagText(start.IsEnabled()),
+                   isOld ? parent.lineOf(schedule_names::Schedule) : place.lineOf(schedule_names::IsEnabled)));
     visitCalendar(calendar, place, node.children);
     addLogText(calendar, start.IsEnabled(), node.children);
     return node;

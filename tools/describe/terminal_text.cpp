@@ -42,7 +42,9 @@ Character decode(std::string_view text) noexcept
         code = code << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
     }
     const bool isSurrogate = code >= FirstSurrogate && code <= LastSurrogate;
-    return {code, code < least[length] || code > LastCode || isSurrogate ? 0 : length};
+    if (code < least[length] || code > LastCode || isSurrogate)
+        return {lead, 0};
+    return {code, length};
 }
 
 bool actsOnTerminals(std::uint32_t code) noexcept
@@ -64,14 +66,10 @@ std::string escaped(std::uint32_t code)
 {
     switch (code)
     {
-    case '\n':
-        return "\\n";
-    case '\r':
-        return "\\r";
-    case '\t':
-        return "\\t";
-    default:
-        return code < 0x100 ? hexadecimal("\\x%02x", code) : hexadecimal("\\u%04x", code);
+    case '\n': return "\\n";
+    case '\r': return "\\r";
+    case '\t': return "\\t";
+    default: return code < 0x100 ? hexadecimal("\\x%02x", code) : hexadecimal("\\u%04x", code);
     }
 }
 

@@ -25,8 +25,8 @@ struct Line
 // Characters, as each takes one column; wide and combining ones are not told apart.
 std::size_t columnsOf(std::string_view text)
 {
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 std::string shownWords(const Node& node, const TextStyle& style)

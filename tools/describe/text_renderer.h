@@ -11,18 +11,18 @@ namespace describe
 /// How text for people is laid out.
 struct TextStyle
 {
-    std::size_t width = 0;        ///< columns of the terminal at which long words are broken; 0: never
-    bool isBold = false;          ///< the first line in bold; only a terminal understands it
+    std::size_t width = 0; ///< columns of the terminal at which long words are broken; 0: never
+    bool isBold = false;   ///< the first line in bold; only a terminal understands it
     bool showsSecrets = false;
     std::size_t longestWords = 4096; ///< bytes of one field's words; the middle of longer ones is left out
 };
 
-/// The tree as aligned lines, a field a line, without the fields that the words above tell already. Everything that could
-/// act on a terminal is escaped. Ends with a line break.
+/// The tree as aligned lines, a field a line, without the fields that the words above tell already. Everything that
+/// could act on a terminal is escaped. Ends with a line break.
 std::string renderText(const Node& node, const TextStyle& style);
 
-/// The children of the node as a table: a row for each, a column for each of its fields. Columns that are empty in every
-/// row are left out.
+/// The children of the node as a table: a row for each, a column for each of its fields. Columns that are empty in
+/// every row are left out.
 std::string renderTable(const Node& node, const TextStyle& style);
 
 } // namespace describe

@@ -19,9 +19,9 @@ using zelplatform::model::structs::CScheduleTime;
 using zelplatform::model::structs::DayHourMatrix;
 
 constexpr int HoursOfDay = 24;
-constexpr std::array<EDayOfWeek::type, 7> DaysFromMonday{EDayOfWeek::Monday,   EDayOfWeek::Tuesday, EDayOfWeek::Wednesday,
-                                                         EDayOfWeek::Thursday, EDayOfWeek::Friday,  EDayOfWeek::Saturday,
-                                                         EDayOfWeek::Sunday};
+constexpr std::array<EDayOfWeek::type, 7> DaysFromMonday{
+    EDayOfWeek::Monday, EDayOfWeek::Tuesday,  EDayOfWeek::Wednesday, EDayOfWeek::Thursday,
+    EDayOfWeek::Friday, EDayOfWeek::Saturday, EDayOfWeek::Sunday};
 
 std::string fullHour(int hour)
 {
@@ -60,7 +60,7 @@ std::string tellKind(const DayHourMatrix& matrix)
 
 Node visitWindow(const BackupWindow& window, const Place& place)
 {
-    const auto matrix = window.getMatrix();
+    const auto& matrix = window.getMatrix();
     auto node = makeField("backupWindow", "Backup window", "", tellKind(matrix), place.line());
     const auto days = place.child(BackupWindow::DaysTag);
     for (const auto day : DaysFromMonday)
@@ -70,8 +70,8 @@ Node visitWindow(const BackupWindow& window, const Place& place)
                                           days.child(name).line()));
     }
     const auto kind = matrix.getScheduleWindowKind();
-    node.children.push_back(makeDetail("kind", "Kind", util::toStr(kind), tellKind(matrix),
-                                       place.lineOf(BackupWindow::KindTag)));
+    node.children.push_back(
+        makeDetail("kind", "Kind", util::toStr(kind), tellKind(matrix), place.lineOf(BackupWindow::KindTag)));
     const auto minutes = util::toStr(window.getHourlyOffsetMinutes());
     node.children.push_back(makeField("hourlyOffsetMinutes", "Offset", minutes,
                                       minutes + " minutes, stored only: the hours above are not shifted",

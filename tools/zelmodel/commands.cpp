@@ -20,7 +20,9 @@ int show(const ShowArguments& arguments, const describe::TextStyle& style, Readi
 
 int next(const NextArguments& arguments, const describe::TextStyle& style, Reading& reading)
 {
-    const auto schedule = openDocument(arguments.file, reading).readSchedule();
+    const auto& document = openDocument(arguments.file, reading);
+    const auto kind = document.kind();
+    const auto schedule = document.readSchedule();
     std::shared_ptr<const BackupWindow> window;
     if (!arguments.window.empty())
         window = openDocument(arguments.window, reading).readWindow();
@@ -30,7 +32,7 @@ int next(const NextArguments& arguments, const describe::TextStyle& style, Readi
     if (days.children.empty())
     {
         std::cerr << describe::printable(shownName(arguments.file)) << ": "
-                  << describe::printable(describe::tellWhyNothingIsNext(schedule)) << '\n';
+                  << describe::printable(describe::tellWhyNothingIsNext(schedule, kind)) << '\n';
         return exit_code::NotScheduled;
     }
     std::cout << describe::renderTable(days, style);

@@ -18,7 +18,7 @@ struct ShowArguments
 struct NextArguments
 {
     std::string file;
-    std::string window;                             ///< empty: none
+    std::string window;                            ///< empty: none
     std::optional<zelplatform::model::CDate> from; ///< nothing: the local date of today
     unsigned count = 10;
 };

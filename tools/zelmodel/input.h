@@ -29,8 +29,8 @@ struct Reading
 /// The name of an input for messages.
 std::string shownName(const std::string& name);
 
-/// The whole input; throws InputError when it cannot be read, and refuses (exc::CRuntimeExc) one that is longer than any
-/// document may be, before it is read whole.
+/// The whole input; throws InputError when it cannot be read, and refuses (exc::CRuntimeExc) one that is longer than
+/// any document may be, before it is read whole.
 std::string readInput(const std::string& name);
 
 /// Reads and parses the input; the reading tells of it until the next one.

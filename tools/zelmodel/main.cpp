@@ -57,7 +57,9 @@ catch (const std::exception&)
 void defineShow(CLI::App& app, ShowArguments& arguments)
 {
     auto& command = *app.add_subcommand("show", "Tell in words what a document holds");
-    command.add_option("FILE", arguments.file, "Job options, schedule options, backup window or GFS policy; - is standard input")
+    command
+        .add_option("FILE", arguments.file,
+                    "Job options, schedule options, backup window or GFS policy; - is standard input")
         ->required();
 }
 
@@ -76,12 +78,10 @@ void defineNext(CLI::App& app, NextArguments& arguments)
         ->type_name("N")
         ->check(CLI::Range(1U, MostDays))
         ->capture_default_str();
-    command.callback(
-        [&arguments]
-        {
-            if (arguments.file == StandardInput && arguments.window == StandardInput)
-                throw CLI::ValidationError("--window", "Standard input can be read only once");
-        });
+    command.callback([&arguments] {
+        if (arguments.file == StandardInput && arguments.window == StandardInput)
+            throw CLI::ValidationError("--window", "Standard input can be read only once");
+    });
 }
 
 int run(int argc, char** argv, Reading& reading)

@@ -1,0 +1,135 @@
+#include "describe/document.h"
+
+#include <exception>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <zelplatform/exc/exc.h>
+
+#include "support/expect_failure.h"
+
+namespace
+{
+
+using describe::Document;
+using describe::EDocumentKind;
+using zelmodel_test::failureText;
+
+constexpr const char* Known = "(known are JobOptionsRoot, JobOptions, ScheduleOptions, Schedule, ActiveFullOptions, "
+                              "SyntheticFullOptions, ScheduleWindow, GfsPolicy).";
+
+struct KindCase
+{
+    const char* text;
+    EDocumentKind kind;
+};
+
+TEST(Kind, IsToldByTheElementAtTheTop)
+{
+    const KindCase cases[] = {KindCase{"<JobOptions/>", EDocumentKind::AgentJobOptions},
+                              KindCase{"<JobOptionsRoot/>", EDocumentKind::ServerJobOptions},
+                              KindCase{"<ScheduleOptions/>", EDocumentKind::ScheduleOptions},
+                              KindCase{"<Schedule/>", EDocumentKind::LoneSchedule},
+                              KindCase{"<Schedule/><ActiveFullOptions/>", EDocumentKind::LoneSchedule},
+                              KindCase{"<ActiveFullOptions/>", EDocumentKind::LoneSchedule},
+                              KindCase{"<SyntheticFullOptions/>", EDocumentKind::LoneSchedule},
+                              KindCase{"<ScheduleWindow/>", EDocumentKind::ScheduleWindow},
+                              KindCase{"<GfsPolicy/>", EDocumentKind::GfsPolicy},
+                              KindCase{"<!-- c --><JobOptions/>", EDocumentKind::AgentJobOptions},
+                              // The managing server's form is looked for first, as readers do.
+                              KindCase{"<JobOptions/><JobOptionsRoot/>", EDocumentKind::ServerJobOptions}};
+    for (const auto& expected : cases)
+    {
+        EXPECT_EQ(Document(expected.text).kind(), expected.kind) << expected.text;
+    }
+}
+
+TEST(Document, RefusesAnUnknownElement)
+{
+    const Document document("\n<Inventory>\n<Host/></Inventory>");
+    EXPECT_EQ(failureText([&] { document.kind(); }),
+              std::string("The element [Inventory] begins no document that is known ") + Known);
+    EXPECT_EQ(document.lastReadLine(), 2);
+}
+
+TEST(Document, NamesOfOtherLetterCaseAreUnknown)
+{
+    EXPECT_EQ(failureText([] { Document("<jobOptions/>").describe(); }),
+              std::string("The element [jobOptions] begins no document that is known ") + Known);
+}
+
+TEST(Document, RefusesMalformedText)
+{
+    EXPECT_EQ(failureText([] { Document("<JobOptions>"); }).substr(0, 24), "Unable to parse XML at l");
+}
+
+TEST(Document, OnlyJobsAndSchedulesHaveASchedule)
+{
+    EXPECT_FALSE(Document("<JobOptions/>").readSchedule().GetJobStartOptions().IsEnabled());
+    EXPECT_FALSE(Document("<JobOptionsRoot/>").readSchedule().GetJobStartOptions().IsEnabled());
+    EXPECT_FALSE(Document("<ScheduleOptions/>").readSchedule().GetJobStartOptions().IsEnabled());
+    EXPECT_EQ(failureText([] { Document("<ScheduleWindow/>").readSchedule(); }),
+              "The document is a backup window, which has no schedule.");
+    EXPECT_EQ(failureText([] { Document("<GfsPolicy/>").readSchedule(); }),
+              "The document is a GFS policy, which has no schedule.");
+}
+
+TEST(Document, OnlyWindowsAreWindows)
+{
+    EXPECT_NE(Document("<ScheduleWindow Minutes=\"0\" Kind=\"0\"/>").readWindow(), nullptr);
+    EXPECT_EQ(failureText([] { Document("<JobOptions/>").readWindow(); }),
+              "The document is job options in the agent's form, not a backup window.");
+    EXPECT_EQ(failureText([] { Document("<JobOptionsRoot/>").readWindow(); }),
+              "The document is job options in the managing server's form, not a backup window.");
+    EXPECT_EQ(failureText([] { Document("<ScheduleOptions/>").readWindow(); }),
+              "The document is schedule options, not a backup window.");
+}
+
+struct LineCase
+{
+    const char* text;
+    int line;
+};
+
+TEST(RefusedLine, IsWhereTheReaderStopped)
+{
+    const LineCase cases[] = {
+        LineCase{"<JobOptions\nCompression=\"x\"\nBlockSize=\"y\"/>", 2},
+        LineCase{"<JobOptions\nRetentionType=\"Days\"\nMaxPoints=\"1x\"/>", 3},
+        LineCase{"<JobOptionsRoot>\n<RetainCycles>7</RetainCycles>\n<RetentionType>x</RetentionType>\n"
+                 "</JobOptionsRoot>",
+                 3},
+        // The rule about the whole record is told of the number that breaks it.
+        LineCase{"<JobOptions\nMaxPoints=\"0\">\n<GfsPolicy\nIsEnabled=\"true\"/></JobOptions>", 2},
+        LineCase{"<JobOptionsRoot>\n<RetainCycles>0</RetainCycles>\n"
+                 "<RetentionType>Cycles</RetentionType>\n</JobOptionsRoot>",
+                 2},
+        LineCase{"<GfsPolicy\nIsEnabled=\"maybe\"/>", 2}, LineCase{"<ScheduleWindow Minutes=\"0\"\n Kind=\"x\"/>", 2}};
+    for (const auto& expected : cases)
+    {
+        const Document document(expected.text);
+        failureText([&] { document.describe(); });
+        EXPECT_EQ(document.lastReadLine(), expected.line) << expected.text;
+    }
+}
+
+TEST(Document, AnUnknownWindowKindIsAPointer)
+{
+    const Document document("<ScheduleWindow Minutes=\"0\"\nKind=\"2\"/>");
+    std::unique_ptr<const exc::CRuntimeExc> refusal;
+    try
+    {
+        document.describe();
+    }
+    catch (const exc::CRuntimeExc* thrown)
+    {
+        refusal.reset(thrown);
+    }
+    ASSERT_NE(refusal, nullptr);
+    EXPECT_STREQ(refusal->what(), "An unsupported schedule window kind occurred: [].");
+    EXPECT_EQ(document.lastReadLine(), 2);
+}
+
+} // namespace

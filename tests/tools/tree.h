@@ -1,0 +1,40 @@
+#pragma once
+
+#include <algorithm>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "describe/node.h"
+
+namespace zelmodel_test
+{
+
+/// The node at the path of names, "schedule/jobStart/time".
+inline const describe::Node& at(const describe::Node& root, const std::string& path)
+{
+    const auto* node = &root;
+    std::istringstream names(path);
+    for (std::string name; std::getline(names, name, '/');)
+    {
+        const auto& children = node->children;
+        const auto found =
+            std::find_if(children.begin(), children.end(), [&](const auto& child) { return child.name == name; });
+        if (found == children.end())
+            throw std::runtime_error("There is no field " + path + ".");
+        node = &*found;
+    }
+    return *node;
+}
+
+/// The names of the children, in order.
+inline std::vector<std::string> namesOf(const describe::Node& node)
+{
+    std::vector<std::string> names;
+    for (const auto& child : node.children)
+        names.push_back(child.name);
+    return names;
+}
+
+} // namespace zelmodel_test
