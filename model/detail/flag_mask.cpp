@@ -8,9 +8,9 @@ namespace zelplatform::model::detail
 std::vector<std::string> namesOfFlags(const std::vector<bool>& mask, const std::vector<std::string>& names)
 {
     std::vector<std::string> result;
-    for (std::size_t i = 0; i < mask.size(); ++i)
+    for (std::size_t i = 0; i < std::max(mask.size(), names.size()); ++i)
     {
-        if (mask[i])
+        if (mask.at(i))
             result.push_back(names.at(i));
     }
     return result;

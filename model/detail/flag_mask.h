@@ -17,7 +17,8 @@ struct FlagAttribute
     const char* name;
 };
 
-/// The names of the flags that are on, in index order; throws std::out_of_range for a flag without a name.
+/// The names of the flags that are on, in index order; throws std::out_of_range for a name without a flag and for a
+/// flag that is on without a name.
 std::vector<std::string> namesOfFlags(const std::vector<bool>& mask, const std::vector<std::string>& names);
 
 /// The value when all flags have it.

@@ -8,6 +8,10 @@
 namespace zelplatform::model::structs
 {
 
+// The window kinds of this namespace have an enumerator of the same name; nothing is hidden that is meant here.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow"
+
 /// How deeply the health of a backup is checked.
 struct ZELMODEL_API EHealthCheckType
 {
@@ -23,5 +27,7 @@ struct ZELMODEL_API EHealthCheckType
     /// Compares exactly; throws "Unable to convert string [%1] to health-check type.".
     static type FromStr(const std::string& text);
 };
+
+#pragma GCC diagnostic pop
 
 } // namespace zelplatform::model::structs

@@ -129,6 +129,19 @@ TEST(XmlDocument, LineThatAGetterTouchedLast)
     EXPECT_EQ(3, document.LastReadLine());
     EXPECT_EQ("3", document.GetRootNode().GetFirstChildNode("c").GetInnerText());
     EXPECT_EQ(5, document.LastReadLine());
+    std::vector<int> lines;
+    for (const CXmlNode& child : document.GetRootNode().GetChildNodes())
+    {
+        (void)child.GetName();
+        lines.push_back(document.LastReadLine());
+    }
+    EXPECT_EQ((std::vector<int>{2, 5}), lines);
+}
+
+TEST(XmlDocument, FaultOfAnEmptyTextIsOnItsFirstLine)
+{
+    EXPECT_EQ(failureText([] { CXmlDocument::Unserialize(""); }),
+              "Unable to parse XML at line 1: [XML_ERROR_EMPTY_DOCUMENT].");
 }
 
 TEST(XmlHolder, CreateSerializeParse)

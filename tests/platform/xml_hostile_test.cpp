@@ -148,6 +148,8 @@ TEST(XmlHostile, Encodings)
     }
     // Whichever declaration says it.
     expectRefused("<?xml version=\"1.0\"?><?xml version=\"1.0\" encoding=\"UTF-16\"?><a/>");
+    // The word inside another value does not stand for the declared one.
+    expectRefused("<?xml version=\"1.0\" standalone=\"encoding='UTF-8'\" encoding=\"UTF-16\"?><a/>");
     // The word elsewhere is no declaration.
     EXPECT_NO_THROW(CXmlDocument::Unserialize("<a encoding=\"UTF-16\"/>"));
     EXPECT_NO_THROW(CXmlDocument::Unserialize("<!-- <?xml encoding=\"UTF-16\"?> --><a/>"));

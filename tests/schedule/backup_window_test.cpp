@@ -3,6 +3,7 @@
 #include <random>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include <gtest/gtest.h>
 

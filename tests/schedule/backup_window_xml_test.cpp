@@ -1,6 +1,8 @@
 #include <climits>
+#include <memory>
 #include <random>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 

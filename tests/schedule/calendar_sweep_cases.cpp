@@ -34,8 +34,10 @@ struct NamedMonths
     const char* name;
     Months months;
 };
-constexpr NamedMonths MonthSets[] = {{"all months", AllMonths},     {"February", February},
-                                     {"December", December},        {"months of 30 days", ShortMonths},
+constexpr NamedMonths MonthSets[] = {{"all months", AllMonths},
+                                     {"February", February},
+                                     {"December", December},
+                                     {"months of 30 days", ShortMonths},
                                      {"January, July", JanuaryAndJuly}};
 
 Week onlyDay(int weekDay)
@@ -127,7 +129,8 @@ std::vector<SweepCase> monthlyOnDayCases()
         {
             CScheduleCalendar calendar;
             calendar.SetMonthlyOnDay(std::nullopt, CDayOfMonth(static_cast<unsigned long>(day)), toMask(set.months));
-            cases.push_back({"day " + std::to_string(day) + " of " + set.name, {1, AllDays, set.months, 6, day}, calendar});
+            cases.push_back(
+                {"day " + std::to_string(day) + " of " + set.name, {1, AllDays, set.months, 6, day}, calendar});
         }
     }
     return cases;
@@ -136,8 +139,9 @@ std::vector<SweepCase> monthlyOnDayCases()
 std::vector<SweepCase> documentCases()
 {
     std::vector<SweepCase> cases;
-    const auto add = [&cases](const std::string& name, const CalendarRules& rules)
-    { cases.push_back(fromDocument("document: " + name, rules)); };
+    const auto add = [&cases](const std::string& name, const CalendarRules& rules) {
+        cases.push_back(fromDocument("document: " + name, rules));
+    };
 
     for (const int day : {1, 7, 8, 14, 15, 22, 28, 29, 31, 32})
     {

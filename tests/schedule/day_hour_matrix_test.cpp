@@ -1,4 +1,5 @@
 #include <climits>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 

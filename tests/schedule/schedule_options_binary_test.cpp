@@ -1,4 +1,5 @@
 #include <chrono>
+#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>

@@ -152,6 +152,7 @@ TEST(WeekMaskFailures, MasksOfWrongLength)
 {
     const std::string vectorContext = "WeekMask: Failed to convert to string vector. ";
     EXPECT_EQ(failureText([] { TooLong.ToStringVector(false); }).rfind(vectorContext, 0), 0U);
+    EXPECT_EQ(failureText([] { TooShort.ToStringVector(false); }).rfind(vectorContext, 0), 0U);
     EXPECT_EQ(
         failureText([] { TooLong.ToLogStr(true); }).rfind("WeekMask: Failed to convert to string. " + vectorContext, 0),
         0U);

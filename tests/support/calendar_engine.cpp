@@ -27,15 +27,12 @@ int lengthOfMonth(int year, int month)
 {
     switch (month)
     {
-    case 1:
-        return isLeapYear(year) ? 29 : 28;
+    case 1: return isLeapYear(year) ? 29 : 28;
     case 3:
     case 5:
     case 8:
-    case 10:
-        return 30;
-    default:
-        return 31;
+    case 10: return 30;
+    default: return 31;
     }
 }
 

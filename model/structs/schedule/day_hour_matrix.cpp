@@ -14,7 +14,7 @@ std::size_t cellIndex(int day, int hour)
 {
     if (day < 0 || day >= DaysOfWeek || hour < 0 || hour >= HoursOfDay)
         throw exc::CRuntimeExc("Backup window matrix indices out of range.");
-    return static_cast<std::size_t>(day * HoursOfDay + hour);
+    return static_cast<std::size_t>(day) * HoursOfDay + static_cast<std::size_t>(hour);
 }
 
 } // namespace

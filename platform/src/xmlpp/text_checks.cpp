@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 #include <boost/algorithm/string/predicate.hpp>
 
@@ -176,6 +177,21 @@ TextFault findCrowdedElement(std::string_view text) noexcept
     return NoFault;
 }
 
+// The value of "encoding" in a declaration, or nothing.
+std::optional<std::string_view> declaredEncoding(std::string_view declaration) noexcept
+{
+    std::size_t at = 0;
+    for (auto open = declaration.find_first_of("\"'"); open != std::string_view::npos;
+         open = declaration.find_first_of("\"'", at))
+    {
+        const auto close = std::min(declaration.find(declaration[open], open + 1), declaration.size());
+        if (declaration.substr(at, open - at).find("encoding") != std::string_view::npos)
+            return declaration.substr(open + 1, close - open - 1);
+        at = std::min(close + 1, declaration.size());
+    }
+    return std::nullopt;
+}
+
 TextFault findForeignEncoding(std::string_view text)
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -183,15 +199,10 @@ TextFault findForeignEncoding(std::string_view text)
     start = std::min(text.find_first_not_of(" \t\r\n", start), text.size());
     if (text.substr(start, 5) != "<?xml")
         return NoFault;
-    const auto declaration = text.substr(start, text.find("?>", start) - start);
-    const auto name = declaration.find("encoding");
-    const auto open = declaration.find_first_of("\"'", std::min(name, declaration.size()));
-    if (open == std::string_view::npos)
+    const auto encoding = declaredEncoding(text.substr(start, text.find("?>", start) - start));
+    if (!encoding || boost::iequals(*encoding, "UTF-8") || boost::iequals(*encoding, "US-ASCII"))
         return NoFault;
-    const auto value = declaration.substr(open + 1, declaration.find(declaration[open], open + 1) - open - 1);
-    if (boost::iequals(value, "UTF-8") || boost::iequals(value, "US-ASCII"))
-        return NoFault;
-    return {"encoding other than UTF-8 and US-ASCII", start + open};
+    return {"encoding other than UTF-8 and US-ASCII", start};
 }
 
 } // namespace

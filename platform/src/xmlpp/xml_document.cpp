@@ -55,7 +55,7 @@ CXmlDocument CXmlDocument::Unserialize(const std::string& text)
         refuse(fault.reason, lineAt(text, fault.offset));
     auto document = std::make_shared<tinyxml2::XMLDocument>();
     if (document->Parse(text.data(), text.size()) != tinyxml2::XML_SUCCESS)
-        refuse(document->ErrorName(), document->ErrorLineNum());
+        refuse(document->ErrorName(), std::max(document->ErrorLineNum(), 1));
     checkTopLevel(*document);
     return CXmlDocument(std::move(document));
 }

@@ -307,13 +307,20 @@ CXmlNodeRange::iterator CXmlNodeRange::end() const
 CXmlNodeRange::iterator::iterator(CXmlNode parent, tinyxml2::XMLNode* at, const std::string* name)
     : m_current(std::move(parent)), m_name(name)
 {
-    m_current.m_node = at;
+    moveTo(at);
 }
 
 CXmlNodeRange::iterator& CXmlNodeRange::iterator::operator++()
 {
-    m_current.m_node = nextNamed(m_current.m_node->NextSiblingElement(), m_name);
+    moveTo(nextNamed(m_current.m_node->NextSiblingElement(), m_name));
     return *this;
+}
+
+void CXmlNodeRange::iterator::moveTo(tinyxml2::XMLNode* at)
+{
+    m_current.m_node = at;
+    if (at != nullptr)
+        noteLine(*m_current.m_document, at->GetLineNum());
 }
 
 bool CXmlNodeRange::iterator::operator!=(const iterator& other) const noexcept

@@ -145,6 +145,7 @@ public:
     private:
         friend class CXmlNodeRange;
         iterator(CXmlNode parent, tinyxml2::XMLNode* at, const std::string* name);
+        void moveTo(tinyxml2::XMLNode* at);
 
         CXmlNode m_current;
         const std::string* m_name;
