@@ -200,7 +200,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "    Start                   starts Every 6 hours 30 minutes (periodical)"},
         LineCase{"older/indexing-all.xml", "  Indexing                  all files and folders"},
         LineCase{"older/indexing-only.xml", "  Indexing                  only these folders: /etc;/var/www"},
-        LineCase{"older/indexing-except.xml", "  Indexing                  all but these folders: /srv/scratch;/var/cache"},
+        LineCase{"older/indexing-except.xml",
+                 "  Indexing                  all but these folders: /srv/scratch;/var/cache"},
         LineCase{"older/retain-days-as-attribute.xml",
                  "  Deleted data              data of machines that vanished from the job is kept 45 days"}));
 

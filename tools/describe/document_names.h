@@ -1,8 +1,8 @@
 #pragma once
 
 // The one set of names that the library's readers and writers use.
-#include "../../model/detail/job_names.h"
-#include "../../model/detail/schedule_names.h"
+#include "detail/job_names.h"
+#include "detail/schedule_names.h"
 
 namespace describe
 {

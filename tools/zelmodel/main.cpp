@@ -13,6 +13,7 @@
 #include <zelplatform/exc/exc.h>
 
 #include "commands.h"
+#include "describe/sentences.h"
 #include "describe/terminal_text.h"
 #include "exit_code.h"
 
@@ -22,7 +23,7 @@ namespace
 using describe::printable;
 using describe::shortened;
 
-constexpr const char* Version = "zelmodel 1.0.0";
+constexpr const char* Version = "zelmodel " ZELMODEL_VERSION;
 constexpr const char* DateFormat = "%Y-%m-%d";
 constexpr std::size_t DateLength = 10;
 constexpr unsigned MostDays = 1000;
@@ -74,8 +75,7 @@ void defineNext(CLI::App& app, NextArguments& arguments)
             "--from", [&arguments](const std::string& text) { arguments.from = parseDate(text); },
             "The first day that counts; today unless given")
         ->type_name("YYYY-MM-DD");
-    command.add_option("-n,--count", arguments.count, "How many days, 1 to 1000")
-        ->type_name("N")
+    command.add_option("-n,--count", arguments.count, "How many days")
         ->check(CLI::Range(1U, MostDays))
         ->capture_default_str();
     command.callback([&arguments] {
@@ -109,13 +109,13 @@ int run(int argc, char** argv, Reading& reading)
     return app.got_subcommand("show") ? show(showArguments, style, reading) : next(nextArguments, style, reading);
 }
 
-int refuse(const Reading& reading, const std::vector<std::string>& sentences)
+int refuse(const Reading& reading, const std::vector<std::string>& trace)
 {
     std::cerr << printable(shownName(reading.name));
     if (reading.line() > 0)
         std::cerr << ':' << reading.line();
     std::cerr << ": refused\n";
-    for (const auto& sentence : sentences)
+    for (const auto& sentence : describe::sentencesOf(trace))
         std::cerr << "  " << printable(shortened(sentence, LongestSentence)) << '\n';
     return exit_code::Refused;
 }
