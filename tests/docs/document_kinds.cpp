@@ -1,0 +1,111 @@
+#include "document_kinds.h"
+
+#include <array>
+#include <exception>
+#include <memory>
+
+#include <zelmodel/job_options.h>
+#include <zelmodel/schedules.h>
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/xmlpp/xmlpp.h>
+
+namespace zelmodel_test
+{
+namespace
+{
+
+using xmlpp::CXmlDocument;
+using namespace zelplatform::model;
+using namespace zelplatform::model::structs;
+
+std::string rewriteJob(const std::string& text)
+{
+    return SBackupJobOptions::fromXml(CXmlDocument::Unserialize(text).ToNode()).toString();
+}
+
+std::string rewriteSchedule(const std::string& text)
+{
+    return CScheduleOptions::FromXml(CXmlDocument::Unserialize(text).GetRootNode("ScheduleOptions")).ToXmlString();
+}
+
+std::string rewriteWindow(const std::string& text)
+{
+    const auto window = BackupWindow::fromXml(CXmlDocument::Unserialize(text).ToNode());
+    const CXmlDocument written;
+    auto top = written.ToNode();
+    window->toXml(top);
+    return written.Serialize();
+}
+
+template <bool IsShort>
+std::string rewritePolicy(const std::string& text)
+{
+    return gfs::SGfsPolicyInfo::fromXml(CXmlDocument::Unserialize(text).ToNode(), IsShort).toXmlString(IsShort);
+}
+
+std::string rewriteIndexing(const std::string& text)
+{
+    CXmlDocument written;
+    auto owner = written.AddRootNode("JobOptions");
+    SIndexingOptions::FromXml(CXmlDocument::Unserialize(text).GetRootNode("JobOptions")).ToXml(owner);
+    return written.Serialize();
+}
+
+std::string tellOldSchedule(const std::string& text)
+{
+    const auto start = CStartJobScheduleOptions::FromXml(CXmlDocument::Unserialize(text).GetRootNode("JobOptions"));
+    constexpr std::array<const char*, 4> types{"weekly", "monthly", "periodically", "continuously"};
+    return std::string(start.IsEnabled() ? "enabled, " : "disabled, ") +
+           types.at(static_cast<std::size_t>(start.GetScheduleType())) + ": " + start.ToLogStr(false) + '\n';
+}
+
+} // namespace
+
+const std::vector<DocumentKind>& allKinds()
+{
+    static const std::vector<DocumentKind> kinds{
+        {"xml JobOptions", true, rewriteJob},
+        {"xml JobOptionsRoot", false, rewriteJob},
+        {"xml ScheduleOptions", true, rewriteSchedule},
+        {"xml Schedule", false, tellOldSchedule},
+        {"xml ScheduleWindow", true, rewriteWindow},
+        {"xml GfsPolicy short", true, rewritePolicy<true>},
+        {"xml GfsPolicy long", true, rewritePolicy<false>},
+        {"xml Indexing", true, rewriteIndexing},
+    };
+    return kinds;
+}
+
+const DocumentKind* findKind(const std::string& info)
+{
+    for (const auto& kind : allKinds())
+    {
+        if (info == kind.info)
+            return &kind;
+    }
+    return nullptr;
+}
+
+std::string compact(const std::string& text)
+{
+    return CXmlDocument::Unserialize(text).Serialize();
+}
+
+std::string refusalOf(const DocumentKind& kind, const std::string& text)
+{
+    try
+    {
+        kind.rewrite(text);
+    }
+    catch (const std::exception& refusal)
+    {
+        return refusal.what();
+    }
+    catch (const exc::CRuntimeExc* thrown)
+    {
+        return std::unique_ptr<const exc::CRuntimeExc>(thrown)->what();
+    }
+    return {};
+}
+
+} // namespace zelmodel_test
