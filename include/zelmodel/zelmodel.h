@@ -7,5 +7,9 @@
 #include <zelmodel/date_time.h>
 #include <zelmodel/enumerations.h>
 #include <zelmodel/job_options.h>
+#include <zelmodel/keys.h>
 #include <zelmodel/log.h>
+#include <zelmodel/repositories.h>
 #include <zelmodel/schedules.h>
+#include <zelmodel/sessions.h>
+#include <zelmodel/transforms.h>

@@ -63,7 +63,7 @@ try : m_type(type), m_weekMask(false), m_monthMask(false), m_weekDayNumber(weekD
     case EScheduleType::Periodically:
         if (!time)
             throw exc::CRuntimeExc("Time for periodical schedule is not set");
-        SetPeriodically(time);
+        SetPeriodically(*time);
         break;
     case EScheduleType::Continuously: SetContinuously(); break;
     default: throw exc::CRuntimeExc("Unexpected type of schedule: [%1]", util::toStr(type));
@@ -130,7 +130,7 @@ catch (std::exception& cause)
                        cause);
 }
 
-void CScheduleCalendar::SetPeriodically(const std::optional<CScheduleTime>& period)
+void CScheduleCalendar::SetPeriodically(const CScheduleTime& period)
 try
 {
     SetTimeImpl(period, true);

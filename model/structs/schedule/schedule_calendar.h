@@ -46,7 +46,7 @@ public:
                          const CMonthMask& monthMask);
 
     /// The time is the length of the period, at most 24 hours and 59 minutes; 0:00 is stored as 24:00.
-    void SetPeriodically(const std::optional<CScheduleTime>& period);
+    void SetPeriodically(const CScheduleTime& period);
 
     void SetContinuously();
 

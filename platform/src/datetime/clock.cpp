@@ -20,6 +20,9 @@ struct Sources
     std::function<long()> localOffset;
 };
 
+// Spares every question about the time the look at the replaced sources.
+std::atomic<bool> isReplaced{false};
+
 std::shared_ptr<const Sources>& sources()
 {
     // Never destroyed: a static object of a client may still ask for the time at unload.
@@ -32,9 +35,8 @@ long machineNow()
     return static_cast<long>(std::time(nullptr));
 }
 
-long machineLocalOffset()
+long localOffsetAt(std::time_t now)
 {
-    const std::time_t now = std::time(nullptr);
     std::tm local{};
     if (localtime_r(&now, &local) == nullptr)
         throw exc::CRuntimeExc("Unable to read the local time.");
@@ -48,22 +50,43 @@ long machineLocalOffset()
     return wallClock - static_cast<long>(now);
 }
 
+// Asked once a second: readers of logs ask for every line.
+long machineLocalOffset()
+{
+    struct Cached
+    {
+        std::time_t second = -1;
+        long offset = 0;
+    };
+    thread_local Cached cached;
+    const std::time_t now = std::time(nullptr);
+    if (cached.second != now)
+        cached = {now, localOffsetAt(now)};
+    return cached.offset;
+}
+
 } // namespace
 
 void set_clock_for_tests(std::function<long()> now, std::function<long()> localOffset)
 {
+    const bool hasSource = now || localOffset;
     auto next = std::make_shared<const Sources>(Sources{std::move(now), std::move(localOffset)});
     std::atomic_store(&sources(), std::move(next));
+    isReplaced = hasSource;
 }
 
 long clock_now()
 {
+    if (!isReplaced)
+        return machineNow();
     const auto current = std::atomic_load(&sources());
     return current->now ? current->now() : machineNow();
 }
 
 long clock_local_offset()
 {
+    if (!isReplaced)
+        return machineLocalOffset();
     const auto current = std::atomic_load(&sources());
     return current->localOffset ? current->localOffset() : machineLocalOffset();
 }

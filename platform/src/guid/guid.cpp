@@ -1,14 +1,12 @@
 #include <zelplatform/guid/guid.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <exception>
-#include <optional>
-#include <stdexcept>
 
 #include <boost/uuid/random_generator.hpp>
-#include <boost/uuid/string_generator.hpp>
 #include <boost/uuid/uuid.hpp>
-#include <boost/uuid/uuid_io.hpp>
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/numbers.h>
@@ -21,17 +19,48 @@ namespace
 constexpr std::size_t TextSize = 36;
 constexpr std::size_t BracedTextSize = TextSize + 2;
 
-// The lengths are tested because the generator would also take digits without hyphens.
-std::optional<boost::uuids::uuid> parsed(std::string_view text)
-try
+constexpr int digitValue(char c) noexcept
 {
-    if (text.size() != TextSize && text.size() != BracedTextSize)
-        return std::nullopt;
-    return boost::uuids::string_generator()(text.begin(), text.end());
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
 }
-catch (std::runtime_error&)
+
+constexpr std::array<signed char, 256> makeDigitValues() noexcept
 {
-    return std::nullopt;
+    std::array<signed char, 256> values{};
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = static_cast<signed char>(digitValue(static_cast<char>(i)));
+    return values;
+}
+
+// Where the digit pairs of the sixteen bytes stand, and the hyphens between them.
+constexpr std::array<std::size_t, 16> Pairs{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
+constexpr std::array<std::size_t, 4> Hyphens{8, 13, 18, 23};
+constexpr std::array<signed char, 256> DigitValues = makeDigitValues();
+
+// By table: logs and transforms are full of identifiers, and the library's generator takes several times as long.
+bool parse(std::string_view text, std::array<std::uint8_t, 16>& bytes) noexcept
+{
+    if (text.size() == BracedTextSize && text.front() == '{' && text.back() == '}')
+        text = text.substr(1, TextSize);
+    if (text.size() != TextSize)
+        return false;
+    int wrong = 0;
+    for (const auto at : Hyphens)
+        wrong |= text[at] ^ '-';
+    for (std::size_t i = 0; i < Pairs.size(); ++i)
+    {
+        const int high = DigitValues[static_cast<unsigned char>(text[Pairs[i]])];
+        const int low = DigitValues[static_cast<unsigned char>(text[Pairs[i] + 1])];
+        wrong |= (high | low) & ~0xF;
+        bytes[i] = static_cast<std::uint8_t>((static_cast<unsigned>(high) << 4U) | static_cast<unsigned>(low));
+    }
+    return wrong == 0;
 }
 
 } // namespace
@@ -54,18 +83,21 @@ guid_t guid_t::FromAStr(std::string_view text)
     guid_t id;
     if (text.empty())
         return id;
-    const auto bytes = parsed(text);
-    if (!bytes)
+    if (!parse(text, id.m_bytes))
         throw exc::CRuntimeExc("Unable to convert string [%1] to GUID.", std::string(text));
-    std::copy(bytes->begin(), bytes->end(), id.m_bytes.begin());
     return id;
 }
 
 std::string guid_t::ToAStr() const
 {
-    boost::uuids::uuid bytes;
-    std::copy(m_bytes.begin(), m_bytes.end(), bytes.begin());
-    return boost::uuids::to_string(bytes);
+    constexpr const char* digits = "0123456789abcdef";
+    std::string text(TextSize, '-');
+    for (std::size_t i = 0; i < Pairs.size(); ++i)
+    {
+        text[Pairs[i]] = digits[m_bytes[i] >> 4U];
+        text[Pairs[i] + 1] = digits[m_bytes[i] & 0xFU];
+    }
+    return text;
 }
 
 } // namespace guid

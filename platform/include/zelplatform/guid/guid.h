@@ -15,7 +15,10 @@ namespace guid
 class ZELPLATFORM_API guid_t
 {
 public:
-    guid_t() = default;
+    constexpr guid_t() = default;
+
+    /// Of these bytes, in the order of the text.
+    explicit constexpr guid_t(const std::array<std::uint8_t, 16>& bytes) noexcept : m_bytes(bytes) {}
 
     /// A fresh random identifier (version 4); throws when the system gives no random bytes.
     static guid_t CreateNew();

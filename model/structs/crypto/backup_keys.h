@@ -1,0 +1,52 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include <zelmodel/export.h>
+#include <zelplatform/crypto/crypto.h>
+#include <zelplatform/guid/guid.h>
+#include <zelplatform/io/io.h>
+
+namespace zelplatform::model::structs
+{
+
+/// The key sets of a backup, each under an identifier. Travels as bytes or base64 between the managing server and the
+/// agent; treat both as secret.
+struct ZELMODEL_API SExplicitBackupKeys
+{
+    guid::guid_t id;
+    std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
+
+    /// The identifier, the number of entries in eight bytes, then each identifier and key set in order. An empty pointer
+    /// throws before anything is written.
+    void Serialize(io::binary_stream_tt& stream) const;
+
+    /// Reads what Serialize writes; of a repeated identifier the last entry counts. Nothing changes when the read fails.
+    void Unserialize(io::binary_stream_tt& stream);
+
+    std::string ToBase64() const;
+    static SExplicitBackupKeys FromBase64(const std::string& text);
+};
+
+/// A key set that is derived from a password, with the bytes of its derivation. Treat its forms as secret.
+struct ZELMODEL_API SPasswordDerivedKey
+{
+    std::shared_ptr<crypto::CKeySet> keySet;
+
+    /// At most 255 bytes.
+    std::shared_ptr<crypto::sec_buffer_t> buffer;
+
+    /// The key set, the buffer's length in one byte, the buffer. An empty pointer or a longer buffer throws before anything
+    /// is written.
+    void Serialize(io::binary_stream_tt& stream) const;
+
+    /// Reads what Serialize writes. Nothing changes when the read fails.
+    void Unserialize(io::binary_stream_tt& stream);
+
+    std::string ToBase64() const;
+    static SPasswordDerivedKey FromBase64(const std::string& text);
+};
+
+} // namespace zelplatform::model::structs

@@ -1,0 +1,45 @@
+#include <zelmodel/structs/crypto/crypto_key.h>
+
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
+
+namespace zelplatform::model::structs
+{
+
+SCryptoKey SCryptoKey::FromKeySet(const std::shared_ptr<crypto::CKeySet>& keySet)
+try
+{
+    if (!keySet)
+        throw exc::CRuntimeExc("There is no key set.");
+    const datetime::CDateTime creationTime(keySet->GetCreationTime().GetSecNum(), true);
+    SCryptoKey key;
+    key.id = guid::guid_t::CreateNew();
+    key.keySetId = keySet->GetId();
+    key.alg = ECryptoAlg::FromLocalType(keySet->GetAlg());
+    key.type = ECryptoKeyType::FromCryptoKeyRole(keySet->GetUsageRole());
+    key.hint = keySet->GetHint();
+    key.creationTime = CDateTimeEx::fromUtcTime(creationTime);
+    key.keys = keySet->GetKeys();
+    return key;
+}
+catch (std::exception& cause)
+{
+    exc::RegenExc("Failed to convert CKeySetPtr to SCryptoKey. Keyset: %1", keySet ? keySet->ToLogString() : "", cause);
+}
+
+// The key set's id stands behind the formatted sentence, which ends in a blank: kept on purpose.
+std::shared_ptr<crypto::CKeySet> SCryptoKey::ToKeySet() const
+try
+{
+    return std::make_shared<crypto::CKeySet>(
+        keySetId, ECryptoAlg::ToLocalType(alg), ECryptoKeyType::ToCryptoKeyRole(type), hint,
+        util::FiletimeFromUnixTime(creationTime.getUtcTime().toUnixTime()), keys);
+}
+catch (std::exception& cause)
+{
+    const auto context = util::str_format("Failed to convert SCryptoKey to CKeySetPtr. ID: %1, type: %2, keyset ID: ",
+                                          util::toStr(id), ECryptoKeyType::ToLogString(type));
+    exc::RegenExc(context + keySetId.ToLogString(), cause);
+}
+
+} // namespace zelplatform::model::structs

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <zelmodel/datetime/date_time_ex.h>
+#include <zelmodel/enums/crypto_alg.h>
+#include <zelmodel/enums/crypto_key_type.h>
+#include <zelmodel/export.h>
+#include <zelplatform/crypto/crypto.h>
+#include <zelplatform/guid/guid.h>
+#include <zelplatform/util/unicode.h>
+
+namespace zelplatform::model::structs
+{
+
+/// The model's copy of one key set of the crypto platform. Key bytes stay in the platform's secure memory.
+struct ZELMODEL_API SCryptoKey
+{
+    /// The record's own identifier, fresh at each conversion; not the key set's.
+    guid::guid_t id;
+    crypto::CKeySetId keySetId;
+    ECryptoAlg::type alg = ECryptoAlg::Qor1;
+    ECryptoKeyType::type type = ECryptoKeyType::Password;
+
+    /// The password hint.
+    CUniString hint;
+
+    /// In UTC, whole seconds; a key set from 1970-01-01 00:00:00 or before has none, and goes back as 0.
+    CDateTimeEx creationTime;
+    std::vector<std::shared_ptr<crypto::CKey>> keys;
+
+    /// Throws "Failed to convert CKeySetPtr to SCryptoKey. Keyset: %1 ..." without a trace, for an empty pointer too.
+    static SCryptoKey FromKeySet(const std::shared_ptr<crypto::CKeySet>& keySet);
+
+    /// Throws "Failed to convert SCryptoKey to CKeySetPtr. ID: %1, type: %2, keyset ID: ..." without a trace.
+    std::shared_ptr<crypto::CKeySet> ToKeySet() const;
+};
+
+} // namespace zelplatform::model::structs

@@ -1,0 +1,64 @@
+#include <zelmodel/structs/repository/external_repo_cloud_container.h>
+
+#include <zelplatform/exc/exc.h>
+#include <zelplatform/xmlpp/xml_document.h>
+
+#include "detail/repository_names.h"
+
+namespace zelplatform::model::structs
+{
+namespace
+{
+
+namespace names = detail::repository_names;
+
+} // namespace
+
+std::string SExternalRepoCloudContainer::Serialize() const
+try
+{
+    const auto& s3 = boost::get<SAmazonS3SpecificParams>(s3Params);
+    xmlpp::CXmlDocument document;
+    auto root = document.AddRootNode(names::CloudContainerRoot);
+    root.SetAttribute(names::RegionId, regionId);
+    root.SetAttribute(names::ContainerName, containerName);
+    root.SetAttribute(names::RepoName, repositoryName);
+    root.SetAttribute(names::ClientId, clientId.Serialize());
+    root.SetAttribute(names::ClientDescription, clientDescription);
+    root.SetBoolAttribute(names::IsObjectLockEnabled, isObjectLockEnabled);
+    root.SetAttribute(names::S3AccessKeyId, s3.credentials.accessKeyId);
+    root.SetAttribute(names::S3SecretAccessKey, s3.credentials.secretAccessKey);
+    root.SetAttribute(names::S3ApiEndpoint, s3.endpoint.apiEndpoint);
+    return document.Serialize(true);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc("Failed to SExternalRepoCloudContainer::Serialize.", cause);
+}
+
+SExternalRepoCloudContainer SExternalRepoCloudContainer::Unserialize(const std::string& text)
+try
+{
+    const auto document = xmlpp::CXmlDocument::Unserialize(text);
+    const auto root = document.GetRootNode(names::CloudContainerRoot);
+    SExternalRepoCloudContainer container;
+    container.regionId = root.GetAttribute(names::RegionId);
+    container.repositoryName = root.GetAttribute(names::RepoName);
+    const auto clientId = cloudbackuplib::CCloudRepoClientId::Deserialize(std::string(root.GetAttribute(names::ClientId)));
+    container.clientId = cloudbackuplib::CCloudRepoClientId(clientId.GetGuid());
+    container.clientDescription = root.GetAttribute(names::ClientDescription);
+    container.isObjectLockEnabled = root.GetBoolAttribute(names::IsObjectLockEnabled);
+    SAmazonS3SpecificParams s3;
+    s3.credentials.lastUpdateTimeUtc = datetime::CDateTime::currentUtcTime();
+    s3.credentials.secretAccessKey = root.GetAttribute(names::S3SecretAccessKey);
+    s3.credentials.accessKeyId = root.GetAttribute(names::S3AccessKeyId);
+    s3.endpoint.apiEndpoint = root.GetAttribute(names::S3ApiEndpoint);
+    container.s3Params = s3;
+    return container;
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc("Failed to SExternalRepoCloudContainer::Unserialize.", cause);
+}
+
+} // namespace zelplatform::model::structs

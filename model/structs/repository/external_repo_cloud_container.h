@@ -1,0 +1,59 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <boost/variant.hpp>
+
+#include <zelmodel/export.h>
+#include <zelmodel/structs/storage/amazon_s3_params.h>
+#include <zelplatform/cloudbackuplib/cloudbackuplib.h>
+#include <zelplatform/crypto/crypto.h>
+#include <zelplatform/guid/guid.h>
+
+namespace zelplatform::model::structs
+{
+
+/// The keys that a container's backups are encrypted with. Filled by the library's clients; in no document.
+struct ZELMODEL_API SCloudContainerEncryption
+{
+    std::shared_ptr<crypto::CKeySet> keySet;
+    std::shared_ptr<crypto::CKey> key;
+    std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
+};
+
+/// A repository in a cloud container (a bucket) that the agent reaches directly. Its string form, document "root" with
+/// dotted attribute names, carries only a part of the record, and the secret access key in clear: treat the text as secret.
+struct ZELMODEL_API SExternalRepoCloudContainer
+{
+    using S3Params = boost::variant<SAmazonS3SpecificParams>;
+
+    guid::guid_t id;
+    std::string regionId;
+
+    /// Written and never read back, on purpose.
+    std::string containerName;
+    std::optional<SCloudContainerEncryption> encryption;
+    std::string repositoryName;
+
+    /// Only the GUID survives reading; what accompanies it is dropped.
+    cloudbackuplib::CCloudRepoClientId clientId;
+    std::string clientDescription;
+    std::string backupPath;
+    std::string ownerName;
+    std::string tag;
+    bool isObjectLockEnabled = false;
+    S3Params s3Params;
+    std::map<guid::guid_t, S3Params> extentS3Params;
+
+    /// The string form, with an XML declaration. Throws "Failed to SExternalRepoCloudContainer::Serialize. ...".
+    std::string Serialize() const;
+
+    /// Reads the string form; what it does not carry is empty, and the credentials' update time is now. Throws "Failed to
+    /// SExternalRepoCloudContainer::Unserialize. ...".
+    static SExternalRepoCloudContainer Unserialize(const std::string& text);
+};
+
+} // namespace zelplatform::model::structs

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include <zelplatform/export.h>
+
+namespace crypto
+{
+
+/// The identifier of a key set: 0 to 64 bytes of any values, ordered byte by byte. No secret.
+class ZELPLATFORM_API CKeySetId
+{
+public:
+    static constexpr std::size_t MaxSize = 64;
+
+    CKeySetId() = default;
+
+    /// Takes the bytes as they are; throws when there are more than 64.
+    explicit CKeySetId(std::string_view bytes);
+
+    /// Throws when no identifier can have that many bytes.
+    static void CheckSize(std::size_t size);
+
+    std::string_view bytes() const noexcept { return {m_bytes.data(), m_size}; }
+
+    /// The bytes as upper-case hexadecimal digits without separators.
+    std::string ToLogString() const;
+
+    friend bool operator==(const CKeySetId& a, const CKeySetId& b) noexcept { return a.bytes() == b.bytes(); }
+    friend bool operator!=(const CKeySetId& a, const CKeySetId& b) noexcept { return !(a == b); }
+    friend bool operator<(const CKeySetId& a, const CKeySetId& b) noexcept { return a.bytes() < b.bytes(); }
+
+private:
+    std::array<char, MaxSize> m_bytes{};
+    std::size_t m_size = 0;
+};
+
+} // namespace crypto

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Arguments of commands.
+#include <zelplatform/mivo/command_args.h>
