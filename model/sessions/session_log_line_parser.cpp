@@ -16,7 +16,6 @@ namespace
 
 constexpr std::size_t LeadingTokens = 5;
 constexpr std::string_view TimeZone = "UTC";
-constexpr std::string_view WhiteSpace = " \t\r\n\v\f";
 
 std::string_view takeUpTo(std::string_view& rest, char separator, const char* message)
 {
@@ -28,25 +27,55 @@ std::string_view takeUpTo(std::string_view& rest, char separator, const char* me
     return part;
 }
 
-CDateTimeEx timeFromText(std::string_view text)
-try
+/// The numbers of a time.
+struct Fields
 {
-    auto rest = text;
+    std::uint16_t year = 0;
+    std::uint8_t month = 0;
+    std::uint8_t day = 0;
+    std::uint8_t hours = 0;
+    std::uint8_t minutes = 0;
+    std::uint8_t seconds = 0;
+};
+
+Fields readFields(std::string_view rest)
+{
     const auto year = takeUpTo(rest, '-', "Wrong string format (year).");
     const auto month = takeUpTo(rest, '-', "Wrong string format (month).");
     const auto day = takeUpTo(rest, ' ', "Wrong string format (day).");
     const auto hours = takeUpTo(rest, ':', "Wrong string format (hours).");
     const auto minutes = takeUpTo(rest, ':', "Wrong string format (minutes).");
     const auto seconds = rest.substr(0, rest.find(' '));
+    return {util::fromStr<std::uint16_t>(year),   util::fromStr<std::uint8_t>(month),
+            util::fromStr<std::uint8_t>(day),     util::fromStr<std::uint8_t>(hours),
+            util::fromStr<std::uint8_t>(minutes), util::fromStr<std::uint8_t>(seconds)};
+}
+
+// The form in which times are written, every digit in its place: nearly all lines have it, and it needs no search.
+std::optional<Fields> readWrittenFields(std::string_view text) noexcept
+{
+    constexpr std::string_view form = "0000-00-00 00:00:00";
+    if (text.size() < form.size() || (text.size() > form.size() && text[form.size()] != ' '))
+        return std::nullopt;
+    bool isInForm = true;
+    for (std::size_t i = 0; i < form.size(); ++i)
+        isInForm &= form[i] == '0' ? static_cast<unsigned>(text[i] - '0') <= 9U : text[i] == form[i];
+    if (!isInForm)
+        return std::nullopt;
+    const auto pair = [text](std::size_t at) {
+        return static_cast<std::uint8_t>((text[at] - '0') * 10 + (text[at + 1] - '0'));
+    };
+    return Fields{static_cast<std::uint16_t>(pair(0) * 100 + pair(2)), pair(5), pair(8), pair(11), pair(14), pair(17)};
+}
+
+CDateTimeEx timeFromText(std::string_view text)
+try
+{
+    const auto written = readWrittenFields(text);
+    const auto fields = written ? *written : readFields(text);
     datetime::CDateTime time(true);
-    const auto yearNumber = util::fromStr<std::uint16_t>(year);
-    const auto monthNumber = util::fromStr<std::uint8_t>(month);
-    const auto dayNumber = util::fromStr<std::uint8_t>(day);
-    const auto hoursNumber = util::fromStr<std::uint8_t>(hours);
-    const auto minutesNumber = util::fromStr<std::uint8_t>(minutes);
-    const auto secondsNumber = util::fromStr<std::uint8_t>(seconds);
-    time.setDate(yearNumber, monthNumber, dayNumber);
-    time.setTime(hoursNumber, minutesNumber, secondsNumber);
+    time.setDate(fields.year, fields.month, fields.day);
+    time.setTime(fields.hours, fields.minutes, fields.seconds);
     return CDateTimeEx::fromUtcTime(time);
 }
 catch (std::exception& cause)
@@ -54,12 +83,18 @@ catch (std::exception& cause)
     exc::RegenExc("Unable to convert time string to DateTime.", cause);
 }
 
+bool isWhiteSpace(char c) noexcept
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
 std::string_view trimmed(std::string_view text) noexcept
 {
-    const auto first = text.find_first_not_of(WhiteSpace);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(WhiteSpace) - first + 1);
+    while (!text.empty() && isWhiteSpace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isWhiteSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 /// The parts of a line that has the shape of a record.
@@ -118,7 +153,7 @@ bool CSessionLogLineParser::Parse(const std::string& line, CDateTimeEx& time, gu
     {
         time = timeFromText(parts->time);
         id = guid::guid_t::FromAStr(parts->id);
-        severity = ISessionLogWriter::SeverityFromString(std::string(trimmed(parts->severity)));
+        severity = ISessionLogWriter::SeverityFromString(trimmed(parts->severity));
         message = trimmed(parts->message);
         return true;
     }

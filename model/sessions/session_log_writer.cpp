@@ -27,11 +27,11 @@ std::string ISessionLogWriter::SeverityToString(ESeverity severity)
     throw exc::CRuntimeExc("Invalid severity value.");
 }
 
-ISessionLogWriter::ESeverity ISessionLogWriter::SeverityFromString(const std::string& text)
+ISessionLogWriter::ESeverity ISessionLogWriter::SeverityFromString(std::string_view text)
 {
     if (const auto value = detail::findValue(Words, text))
         return *value;
-    throw exc::CRuntimeExc("Invalid severity value string [%1].", text);
+    throw exc::CRuntimeExc("Invalid severity value string [%1].", std::string(text));
 }
 
 std::map<ISessionLogWriter::ESeverity, std::string> ISessionLogWriter::CreateMessageTypes()

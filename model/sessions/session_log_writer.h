@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include <zelmodel/export.h>
 
@@ -28,7 +29,7 @@ public:
     static std::string SeverityToString(ESeverity severity);
 
     /// Compares exactly; throws "Invalid severity value string [%1].".
-    static ESeverity SeverityFromString(const std::string& text);
+    static ESeverity SeverityFromString(std::string_view text);
 
     /// The words by value.
     static std::map<ESeverity, std::string> CreateMessageTypes();

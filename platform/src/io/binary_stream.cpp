@@ -1,6 +1,7 @@
 #include <zelplatform/io/binary_stream.h>
 
 #include <algorithm>
+#include <limits>
 
 #include <boost/endian/conversion.hpp>
 
@@ -38,6 +39,14 @@ binary_stream_tt& readNumber(binary_stream_tt& stream, T& value)
     return stream;
 }
 
+// A device may claim any count; the sum stays what a count can say.
+long receivedInAll(unsigned long before, long count) noexcept
+{
+    constexpr long greatest = std::numeric_limits<long>::max();
+    const long received = static_cast<long>(before);
+    return count > greatest - received ? greatest : received + count;
+}
+
 template <class Bytes>
 Bytes readBytes(io_dev_redirector_t& device, unsigned long size)
 {
@@ -54,7 +63,7 @@ Bytes readBytes(io_dev_redirector_t& device, unsigned long size)
         if (count < 0)
             detail::failRead(count, size);
         if (static_cast<unsigned long>(count) != step)
-            detail::failRead(static_cast<long>(received) + count, size);
+            detail::failRead(receivedInAll(received, count), size);
     }
     return bytes;
 }
