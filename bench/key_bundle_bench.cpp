@@ -6,6 +6,7 @@
 #include <openssl/evp.h>
 
 #include <zelmodel/keys.h>
+#include <zelplatform/util/util.h>
 
 #include "ratio_table.h"
 

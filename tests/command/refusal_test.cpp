@@ -73,9 +73,94 @@ INSTANTIATE_TEST_SUITE_P(
                                              "  Unable to parse XML at line 2: [XML_ERROR_MISMATCHED_ELEMENT].\n"},
         RefusedCase{"refused/unknown-document.xml",
                     "refused/unknown-document.xml:2: refused\n"
-                    "  The element [Inventory] begins no document that is known (known are JobOptionsRoot, JobOptions, "
-                    "ScheduleOptions, Schedule, ActiveFullOptions, SyntheticFullOptions, ScheduleWindow, "
-                    "GfsPolicy).\n"}));
+                    "  The element [Inventory] begins no document that is known.\n"
+                    "  Documents of jobs begin with JobOptionsRoot, JobOptions, ScheduleOptions, Schedule, "
+                    "ActiveFullOptions, SyntheticFullOptions, ScheduleWindow, GfsPolicy, OracleConfig, "
+                    "PostgresConfig.\n"
+                    "  Documents of repositories begin with JobSettings, ImmutabilitySettings, "
+                    "DirectBackupImmutabilitySettings, AmazonS3SpecificParams, root with dotted attributes.\n"
+                    "  Documents of sessions begin with Details, ProgressDetails, MountSessionDetails, BackupJobState, "
+                    "any element with ordinalId and updateUsn.\n"
+                    "  Documents of transforms begin with DeletePointTransformSpec, FullTransformSpec, "
+                    "GfsFullTransformSpec.\n"
+                    "  Documents of values begin with SqlVariant.\n"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Records, Refused,
+    testing::Values(
+        RefusedCase{"refused/oracle-unknown-mode.xml",
+                    "refused/oracle-unknown-mode.xml:2: refused\n"
+                    "  Failed to convert string to EArchivedLogsTruncationMode::type\n"
+                    "  Unknown string: byage\n"},
+        RefusedCase{"refused/postgres-unknown-authentication.xml",
+                    "refused/postgres-unknown-authentication.xml:2: refused\n"
+                    "  Unable to convert string(ticket) to EPostgreSqlAuthType\n"
+                    "  Unknown PostgreSql authentication type\n"},
+        RefusedCase{"refused/repository-limitations-without-mode.xml",
+                    "refused/repository-limitations-without-mode.xml:2: refused\n"
+                    "  Unable to parse xml repository limitations specification.\n"
+                    "  Attribute [BackupMode] is not found in [JobSettings].\n"},
+        RefusedCase{"refused/immutability-days-too-large.xml", "refused/immutability-days-too-large.xml:3: refused\n"
+                                                               "  Unable to parse repository immutability settings.\n"
+                                                               "  Unable to cast value from [long] to [int].\n"},
+        RefusedCase{"refused/direct-backup-immutability-without-extent.xml",
+                    "refused/direct-backup-immutability-without-extent.xml:2: refused\n"
+                    "  Unable to parse direct backup immutability settings,\n"
+                    "  Attribute [HasImmutableCapacityOrArchiveTierExtent] is not found in "
+                    "[DirectBackupImmutabilitySettings].\n"},
+        RefusedCase{"refused/object-storage-without-session-token.xml",
+                    "refused/object-storage-without-session-token.xml:3: refused\n"
+                    "  Failed to parse SAmazonS3SpecificParams from xml.\n"
+                    "  Failed to parse SAmazonS3Credentials from xml.\n"
+                    "  Attribute [SessionToken] is not found in [Credentials].\n"},
+        RefusedCase{"refused/object-storage-false-certificate.xml",
+                    "refused/object-storage-false-certificate.xml:5: refused\n"
+                    "  Failed to parse SAmazonS3SpecificParams from xml.\n"
+                    "  Failed to parse SAmazonS3Endpoint from XML.\n"
+                    "  Unable to read certificate.\n"
+                    "  There is no complete pair of BEGIN and END.\n"},
+        RefusedCase{"refused/cloud-container-without-endpoint.xml",
+                    "refused/cloud-container-without-endpoint.xml:2: refused\n"
+                    "  Failed to SExternalRepoCloudContainer::Unserialize.\n"
+                    "  Attribute [SAmazonS3SpecificParams.endpoint.apiEndpoint] is not found in [root].\n"},
+        RefusedCase{"refused/sql-variant-without-type.xml", "refused/sql-variant-without-type.xml:2: refused\n"
+                                                            "  Attribute [Type] is not found in [SqlVariant].\n"},
+        RefusedCase{"refused/session-details-of-unknown-kind.xml",
+                    "refused/session-details-of-unknown-kind.xml:2: refused\n"
+                    "  Failed to deserialize session details.\n"
+                    "  Unable to convert string [Synthetic] to OibAlgorithm::type.\n"},
+        RefusedCase{"refused/session-progress-load-too-large.xml",
+                    "refused/session-progress-load-too-large.xml:2: refused\n"
+                    "  Failed to deserialize session progress details.\n"
+                    "  Unable to cast value from [long] to [int].\n"},
+        RefusedCase{"refused/task-log-record-of-unknown-status.xml",
+                    "refused/task-log-record-of-unknown-status.xml:3: refused\n"
+                    "  STaskLogRecord: Failed to unserial from xml.\n"
+                    "  map::at\n"},
+        RefusedCase{"refused/task-log-record-without-date.xml",
+                    "refused/task-log-record-without-date.xml:3: refused\n"
+                    "  STaskLogRecord: Failed to unserial from xml.\n"
+                    "  Unable to convert string [02/30/2024 13:05:09] to date-time.\n"
+                    "  Day of month is not valid for year\n"},
+        RefusedCase{"refused/mount-session-unbalanced-braces.xml",
+                    "refused/mount-session-unbalanced-braces.xml:2: refused\n"
+                    "  SMountSessionDetails: Failed to deserialize from XML.\n"
+                    "  Unable to convert string [{b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604] to GUID.\n"},
+        RefusedCase{"refused/job-state-version-3.xml", "refused/job-state-version-3.xml:2: refused\n"
+                                                       "  Failed to deserialize SBackupJobState.\n"
+                                                       "  Unsupported backup job state xml version 3.\n"},
+        RefusedCase{"refused/delete-points-without-list.xml",
+                    "refused/delete-points-without-list.xml:2: refused\n"
+                    "  Unable to parse xml transform specification.\n"
+                    "  Node [IncrementPointIds] is not found in [DeletePointTransformSpec].\n"},
+        RefusedCase{"refused/synthetic-full-without-points.xml",
+                    "refused/synthetic-full-without-points.xml:2: refused\n"
+                    "  Unable to parse xml create synthetic specification.\n"
+                    "  Mandatory arguments not set (v11:LastIncrementPointId or v12:LastIncrementPointIds)\n"},
+        RefusedCase{"refused/gfs-synthetic-full-wrong-operation.xml",
+                    "refused/gfs-synthetic-full-wrong-operation.xml:4: refused\n"
+                    "  Unable to parse xml create gfs synthetic specification.\n"
+                    "  Unable to convert string [monthly] to [int].\n"}));
 
 TEST(RefusedByNext, TheWindowIsNamed)
 {

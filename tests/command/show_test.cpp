@@ -1,35 +1,17 @@
-#include <fstream>
 #include <ostream>
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "show_case.h"
 #include "support/run_command.h"
 
 namespace
 {
 
+using zelmodel_test::expectShown;
 using zelmodel_test::runCommand;
-
-std::string example(const std::string& name)
-{
-    std::ifstream file(std::string(ZELMODEL_EXAMPLES_DIR) + "/" + name, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-struct ShowCase
-{
-    const char* file;
-    const char* output;
-};
-
-std::ostream& operator<<(std::ostream& stream, const ShowCase& test)
-{
-    return stream << test.file;
-}
+using zelmodel_test::ShowCase;
 
 class Show : public testing::TestWithParam<ShowCase>
 {
@@ -37,18 +19,7 @@ class Show : public testing::TestWithParam<ShowCase>
 
 TEST_P(Show, TellsTheDocumentInWords)
 {
-    const auto result = runCommand({"show", GetParam().file});
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.messages, "");
-    EXPECT_EQ(result.output, GetParam().output);
-}
-
-TEST_P(Show, ReadsStandardInput)
-{
-    const auto result = runCommand({"show", "-"}, example(GetParam().file));
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.messages, "");
-    EXPECT_EQ(result.output, GetParam().output);
+    expectShown(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -20,7 +20,7 @@ enum class Letters
     Any,
 };
 
-/// One conversion of an enumeration, or a pair of conversions. The sweep walks -1 ... last + 1.
+/// One conversion of an enumeration, or a pair of conversions. The sweep walks first ... last + 1.
 struct Case
 {
     std::string name;
@@ -31,6 +31,7 @@ struct Case
     std::vector<Row> readOnly;                   ///< aliases and names that are not written
     std::string unknownValue;                    ///< the whole chain; %1 stands for the number
     std::string unknownText;                     ///< the whole chain; %1 stands for the text
+    int first = -1;                              ///< 0 for numbers without a sign
 };
 
 template <class TEnum>
@@ -47,5 +48,17 @@ std::function<int(const std::string&)> reader(TEnum (*convert)(const std::string
 
 /// The enumerations of model/enums and model/size.
 std::vector<Case> foundationCases();
+
+/// GFS flags and tracking, ownership, application processing.
+std::vector<Case> jobConfigurationCases();
+
+/// What a job's scope is made of.
+std::vector<Case> jobFilterCases();
+
+/// Repositories and object storages.
+std::vector<Case> repositoryCases();
+
+/// The severities of session logs.
+std::vector<Case> sessionCases();
 
 } // namespace sweep

@@ -26,7 +26,16 @@ using zelmodel_test::failureText;
 
 std::vector<Case> allCases()
 {
-    return foundationCases();
+    std::vector<Case> all;
+    for (const auto& family : {
+             foundationCases(),
+             jobConfigurationCases(),
+             jobFilterCases(),
+             repositoryCases(),
+             sessionCases(),
+         })
+        all.insert(all.end(), family.begin(), family.end());
+    return all;
 }
 
 std::string filled(std::string chain, const std::string& word)
@@ -66,7 +75,7 @@ TEST_P(SweepTest, WritesEveryNumberOrRefusesIt)
     for (const auto& row : readRows(sweepCase))
         last = std::max(last, row.value);
 
-    for (int value = -1; sweepCase.write && value <= last + 1; ++value)
+    for (int value = sweepCase.first; sweepCase.write && value <= last + 1; ++value)
     {
         SCOPED_TRACE(value);
         const auto row = std::find_if(sweepCase.rows.begin(), sweepCase.rows.end(),

@@ -156,6 +156,13 @@ TEST(XmlHostile, Encodings)
     EXPECT_NO_THROW(CXmlDocument::Unserialize("<a><![CDATA[<?xml version=\"1.0\" encoding=\"UTF-16\"?>]]></a>"));
 }
 
+TEST(XmlHostile, EndTagsInValuesCommentsAndCdataAreNone)
+{
+    for (const char* text : {"<a b=\"</a>\"/>", "<a b='</'></a>", "<a><!-- </a> --></a>", "<a><![CDATA[</a>]]></a>",
+                             "<a/><!-- </a> -->", "<a><b></b>text<c/></a>"})
+        EXPECT_NO_THROW(CXmlDocument::Unserialize(text)) << text;
+}
+
 TEST(XmlHostile, BytesThatAreNoUtf8Pass)
 {
     const std::string bytes = "\xE4\x80\xC0\x80\xED\xA0\x80\xF8\xFF";
@@ -227,6 +234,10 @@ TEST(XmlHostile, MalformedMarkup)
                              "<a>",
                              "</a>",
                              "<a></b>",
+                             "<a/></b>",
+                             "<a/></b><c/>",
+                             "<a></a></a>",
+                             "<a><!-- </a> --></a></a>",
                              "<a><b></a></b>",
                              "<a b/>",
                              "<a b=/>",

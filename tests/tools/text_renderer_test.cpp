@@ -9,6 +9,7 @@ namespace
 
 using describe::makeDetail;
 using describe::makeField;
+using describe::makeSecret;
 using describe::Node;
 using describe::renderTable;
 using describe::renderText;
@@ -77,10 +78,35 @@ TEST(RenderText, HidesSecretsUnlessTold)
     auto root = makeField("a", "A", "", "", 0);
     root.children.push_back(makeField("key", "Key", "canary", "canary", 0));
     root.children.back().secret = true;
-    EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  (hidden)\n");
+    EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  (hidden, 6 characters)\n");
     TextStyle style;
     style.showsSecrets = true;
     EXPECT_EQ(renderText(root, style), "A\n  Key  canary\n");
+}
+
+TEST(RenderText, CountsTheCharactersOfASecretNotItsBytes)
+{
+    auto root = makeField("a", "A", "", "", 0);
+    root.children.push_back(makeSecret("key", "Key", "\xc3\xa9\xe2\x82\xac", 0));
+    root.children.push_back(makeSecret("pin", "Pin", "1", 0));
+    EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  (hidden, 2 characters)\n  Pin  (hidden, 1 character)\n");
+}
+
+TEST(RenderText, AnEmptySecretHidesNothing)
+{
+    auto root = makeField("a", "A", "", "", 0);
+    root.children.push_back(makeSecret("key", "Key", "", 0));
+    EXPECT_FALSE(root.children.back().secret);
+    EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  none\n");
+}
+
+TEST(RenderTable, HidesSecrets)
+{
+    auto row = makeField("row", "", "", "", 0);
+    row.children.push_back(makeSecret("key", "Key", "canary", 0));
+    auto root = makeField("a", "A", "", "", 0);
+    root.children.push_back(row);
+    EXPECT_EQ(renderTable(root, TextStyle{}), "A\nKey\n(hidden, 6 characters)\n");
 }
 
 TEST(RenderText, EscapesControlCharacters)

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "describe/document.h"
 #include "describe/node.h"
 
 namespace zelmodel_test
@@ -35,6 +38,31 @@ inline std::vector<std::string> namesOf(const describe::Node& node)
     for (const auto& child : node.children)
         names.push_back(child.name);
     return names;
+}
+
+/// The tree of a document.
+inline describe::Node treeOf(const std::string& text)
+{
+    return describe::Document(text).describe();
+}
+
+/// What a field must hold.
+struct ExpectedField
+{
+    const char* path;
+    const char* value;
+    const char* words;
+    int line;
+};
+
+inline void expectFields(const describe::Node& root, const std::vector<ExpectedField>& fields)
+{
+    for (const auto& field : fields)
+    {
+        EXPECT_EQ(at(root, field.path).value, field.value) << field.path;
+        EXPECT_EQ(at(root, field.path).words, field.words) << field.path;
+        EXPECT_EQ(at(root, field.path).line, field.line) << field.path;
+    }
 }
 
 } // namespace zelmodel_test

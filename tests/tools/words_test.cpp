@@ -14,6 +14,28 @@ TEST(Words, Counts)
     EXPECT_EQ(describe::countOf(14, "restore point"), "14 restore points");
 }
 
+TEST(Words, CountsThatMayBeNegative)
+{
+    EXPECT_EQ(describe::countOfSigned(1, "day"), "1 day");
+    EXPECT_EQ(describe::countOfSigned(0, "day"), "0 days");
+    EXPECT_EQ(describe::countOfSigned(-1, "day"), "-1 days");
+    EXPECT_EQ(describe::countOfSigned(-2147483648L, "day"), "-2147483648 days");
+}
+
+TEST(Words, Sizes)
+{
+    EXPECT_EQ(describe::sizeOf(0), "0.0 B");
+    EXPECT_EQ(describe::sizeOf(1536), "1.5 KB");
+    EXPECT_EQ(describe::sizeOf(18446744073709551615UL), "16.0 EB");
+}
+
+TEST(Words, Identifiers)
+{
+    EXPECT_EQ(describe::identifierOf(guid::guid_t()), "none");
+    EXPECT_EQ(describe::identifierOf(guid::guid_t::FromAStr("{5D3E9F10-7B42-4E6A-8C91-2F60A4B8D317}")),
+              "5d3e9f10-7b42-4e6a-8c91-2f60a4b8d317");
+}
+
 TEST(Words, Durations)
 {
     struct Case
@@ -42,6 +64,7 @@ TEST(Words, Dates)
     EXPECT_EQ(describe::isoDate(moment), "2024-03-07");
     EXPECT_EQ(describe::clockTime(moment), "22:05");
     EXPECT_EQ(describe::weekDay(moment), "Thursday");
+    EXPECT_EQ(describe::momentUtc(moment), "2024-03-07 22:05:00 UTC");
 }
 
 TEST(Words, FlagsAndEmptyTexts)

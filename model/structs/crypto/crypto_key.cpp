@@ -31,9 +31,10 @@ catch (std::exception& cause)
 std::shared_ptr<crypto::CKeySet> SCryptoKey::ToKeySet() const
 try
 {
-    return std::make_shared<crypto::CKeySet>(
-        keySetId, ECryptoAlg::ToLocalType(alg), ECryptoKeyType::ToCryptoKeyRole(type), hint,
-        util::FiletimeFromUnixTime(creationTime.getUtcTime().toUnixTime()), keys);
+    const auto localAlg = ECryptoAlg::ToLocalType(alg);
+    const auto role = ECryptoKeyType::ToCryptoKeyRole(type);
+    const auto fileTime = util::FiletimeFromUnixTime(creationTime.getUtcTime().toUnixTime());
+    return std::make_shared<crypto::CKeySet>(keySetId, localAlg, role, hint, fileTime, keys);
 }
 catch (std::exception& cause)
 {

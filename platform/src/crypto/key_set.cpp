@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
+#include <string_view>
 #include <utility>
 
+#include <boost/endian/conversion.hpp>
+
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/cast.h>
 #include <zelplatform/util/numbers.h>
 #include <zelplatform/util/text.h>
 
@@ -17,6 +22,11 @@ namespace
 constexpr std::uint8_t FormVersion = 1;
 constexpr unsigned MaxNanoseconds = 999'999'999;
 
+// Version and length of the identifier; algorithm, role, seconds and nanoseconds.
+constexpr std::size_t StartSize = 1 + 1;
+constexpr std::size_t NumbersSize = 4 + 4 + 8 + 4;
+constexpr std::size_t MaxNumbersSize = StartSize + NumbersSize + 4;
+
 void checkKeyCount(std::size_t count)
 {
     if (count > CKeySet::MaxKeys)
@@ -24,23 +34,60 @@ void checkKeyCount(std::size_t count)
                                util::toStr(CKeySet::MaxKeys));
 }
 
-CKeySetId readId(io::binary_stream_tt& stream)
+void writeBytes(io::binary_stream_tt& stream, std::string_view bytes)
 {
-    std::uint8_t size = 0;
-    stream >> size;
-    CKeySetId::CheckSize(size);
-    std::array<char, CKeySetId::MaxSize> bytes{};
-    if (size != 0)
-        stream.read(bytes.data(), size);
-    return CKeySetId({bytes.data(), size});
+    if (!bytes.empty())
+        stream.write(bytes.data(), bytes.size());
 }
 
-lin::lin_filetime_t readTime(io::binary_stream_tt& stream)
+// Numbers and the identifier pass through here, so that the device is not called for each of them. Never key bytes.
+class FormPart
 {
-    lin::lin_filetime_t time;
-    stream >> time.seconds >> time.nanoseconds;
-    return time;
-}
+public:
+    template <class T>
+    void add(T number)
+    {
+        const T bytes = boost::endian::native_to_little(number);
+        add({reinterpret_cast<const char*>(&bytes), sizeof(bytes)});
+    }
+
+    void add(std::string_view bytes)
+    {
+        std::copy(bytes.begin(), bytes.end(), m_bytes.data() + m_position);
+        m_position += bytes.size();
+    }
+
+    void writeTo(io::binary_stream_tt& stream)
+    {
+        writeBytes(stream, {m_bytes.data(), m_position});
+        m_position = 0;
+    }
+
+    void readFrom(io::binary_stream_tt& stream, std::size_t size)
+    {
+        stream.read(m_bytes.data(), size);
+        m_position = 0;
+    }
+
+    std::string_view bytes(std::size_t size)
+    {
+        const char* const start = m_bytes.data() + m_position;
+        m_position += size;
+        return {start, size};
+    }
+
+    template <class T>
+    T number()
+    {
+        T value{};
+        std::memcpy(&value, bytes(sizeof(T)).data(), sizeof(T));
+        return boost::endian::little_to_native(value);
+    }
+
+private:
+    std::array<char, CKeySetId::MaxSize + MaxNumbersSize> m_bytes{};
+    std::size_t m_position = 0;
+};
 
 std::shared_ptr<CKey> readKey(io::binary_stream_tt& stream)
 {
@@ -70,7 +117,7 @@ CKeySet::CKeySet(CKeySetId id, ECryptAlgs alg, EKeySetUsageRole role, CUniString
 {
     checkKeyCount(m_keys.size());
     if (std::find(m_keys.begin(), m_keys.end(), nullptr) != m_keys.end())
-        throw exc::CRuntimeExc("There is no key behind a pointer of the key set.");
+        throw exc::CRuntimeExc("Key set holds an empty key pointer.");
     if (m_creationTime.nanoseconds > MaxNanoseconds)
         throw exc::CRuntimeExc("Nanoseconds [%1] are more than a second.", util::toStr(m_creationTime.nanoseconds));
 }
@@ -84,34 +131,46 @@ std::string CKeySet::ToLogString() const
 void CKeySet::Serial(io::binary_stream_tt& stream) const
 {
     const auto hint = CUtf8String::FromWide(m_hint);
-    const auto id = m_id.bytes();
-    stream << FormVersion << static_cast<std::uint8_t>(id.size());
-    if (!id.empty())
-        stream.write(id.data(), id.size());
-    stream << static_cast<std::uint32_t>(m_alg) << static_cast<std::uint32_t>(m_role) << m_creationTime.seconds
-           << m_creationTime.nanoseconds << hint.str() << static_cast<std::uint32_t>(m_keys.size());
+    FormPart part;
+    part.add(FormVersion);
+    part.add(static_cast<std::uint8_t>(m_id.bytes().size()));
+    part.add(m_id.bytes());
+    part.add(static_cast<std::uint32_t>(m_alg));
+    part.add(static_cast<std::uint32_t>(m_role));
+    part.add(static_cast<std::uint64_t>(m_creationTime.seconds));
+    part.add(m_creationTime.nanoseconds);
+    part.add(util::safe_cast<std::uint32_t>(hint.str().size()));
+    part.writeTo(stream);
+    writeBytes(stream, hint.str());
+    part.add(static_cast<std::uint32_t>(m_keys.size()));
     for (const auto& key : m_keys)
     {
-        stream << static_cast<std::uint32_t>(key->size());
-        if (key->size() != 0)
-            stream.write(key->data(), key->size());
+        part.add(static_cast<std::uint32_t>(key->size()));
+        part.writeTo(stream);
+        writeBytes(stream, {key->data(), key->size()});
     }
+    part.writeTo(stream);
 }
 
 std::shared_ptr<CKeySet> CKeySet::Unserial(io::binary_stream_tt& stream)
 {
-    std::uint8_t version = 0;
-    stream >> version;
+    FormPart part;
+    part.readFrom(stream, StartSize);
+    const auto version = part.number<std::uint8_t>();
     if (version != FormVersion)
         throw exc::CRuntimeExc("Key set form version [%1] is not known.", util::toStr(version));
-    const auto id = readId(stream);
-    std::uint32_t alg = 0;
-    std::uint32_t role = 0;
-    stream >> alg >> role;
-    const auto creationTime = readTime(stream);
+    const auto idSize = part.number<std::uint8_t>();
+    CKeySetId::CheckSize(idSize);
+
+    part.readFrom(stream, idSize + NumbersSize);
+    const CKeySetId id(part.bytes(idSize));
+    const auto alg = static_cast<ECryptAlgs>(part.number<std::uint32_t>());
+    const auto role = static_cast<EKeySetUsageRole>(part.number<std::uint32_t>());
+    const auto seconds = static_cast<long>(part.number<std::uint64_t>());
+    const lin::lin_filetime_t creationTime{seconds, part.number<std::uint32_t>()};
+
     auto hint = CUniString::FromUtf8(stream.read_text());
-    return std::make_shared<CKeySet>(id, static_cast<ECryptAlgs>(alg), static_cast<EKeySetUsageRole>(role),
-                                     std::move(hint), creationTime, readKeys(stream));
+    return std::make_shared<CKeySet>(id, alg, role, std::move(hint), creationTime, readKeys(stream));
 }
 
 } // namespace crypto

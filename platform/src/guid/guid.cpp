@@ -30,18 +30,26 @@ constexpr int digitValue(char c) noexcept
     return -1;
 }
 
-constexpr std::array<signed char, 256> makeDigitValues() noexcept
+constexpr unsigned NoDigit = 0x100;
+
+// The value of each character as a hexadecimal digit, shifted into its place; NoDigit for all others.
+constexpr std::array<std::uint16_t, 256> makeDigits(unsigned shift) noexcept
 {
-    std::array<signed char, 256> values{};
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = static_cast<signed char>(digitValue(static_cast<char>(i)));
-    return values;
+    std::array<std::uint16_t, 256> digits{};
+    for (std::size_t i = 0; i < digits.size(); ++i)
+    {
+        const int value = digitValue(static_cast<char>(i));
+        digits[i] = static_cast<std::uint16_t>(value < 0 ? NoDigit : static_cast<unsigned>(value) << shift);
+    }
+    return digits;
 }
+
+constexpr std::array<std::uint16_t, 256> HighDigits = makeDigits(4);
+constexpr std::array<std::uint16_t, 256> LowDigits = makeDigits(0);
 
 // Where the digit pairs of the sixteen bytes stand, and the hyphens between them.
 constexpr std::array<std::size_t, 16> Pairs{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
 constexpr std::array<std::size_t, 4> Hyphens{8, 13, 18, 23};
-constexpr std::array<signed char, 256> DigitValues = makeDigitValues();
 
 // By table: logs and transforms are full of identifiers, and the library's generator takes several times as long.
 bool parse(std::string_view text, std::array<std::uint8_t, 16>& bytes) noexcept
@@ -50,17 +58,17 @@ bool parse(std::string_view text, std::array<std::uint8_t, 16>& bytes) noexcept
         text = text.substr(1, TextSize);
     if (text.size() != TextSize)
         return false;
-    int wrong = 0;
+    unsigned wrong = 0;
     for (const auto at : Hyphens)
-        wrong |= text[at] ^ '-';
+        wrong |= text[at] == '-' ? 0U : NoDigit;
     for (std::size_t i = 0; i < Pairs.size(); ++i)
     {
-        const int high = DigitValues[static_cast<unsigned char>(text[Pairs[i]])];
-        const int low = DigitValues[static_cast<unsigned char>(text[Pairs[i] + 1])];
-        wrong |= (high | low) & ~0xF;
-        bytes[i] = static_cast<std::uint8_t>((static_cast<unsigned>(high) << 4U) | static_cast<unsigned>(low));
+        const unsigned high = HighDigits[static_cast<unsigned char>(text[Pairs[i]])];
+        const unsigned low = LowDigits[static_cast<unsigned char>(text[Pairs[i] + 1])];
+        wrong |= high | low;
+        bytes[i] = static_cast<std::uint8_t>(high | low);
     }
-    return wrong == 0;
+    return (wrong & NoDigit) == 0;
 }
 
 } // namespace

@@ -12,10 +12,25 @@ mem_stream_tt::mem_stream_tt(crypto::sec_buffer_t bytes) noexcept : m_bytes(std:
 
 mem_stream_tt::~mem_stream_tt() = default;
 
+// A vector with an allocator of its own copies byte by byte; blocks are copied here instead.
+void mem_stream_tt::reserve(unsigned long size)
+{
+    if (size <= m_bytes.capacity())
+        return;
+    crypto::sec_buffer_t bytes;
+    bytes.reserve(size);
+    bytes.resize(m_bytes.size());
+    std::copy_n(m_bytes.data(), m_bytes.size(), bytes.data());
+    m_bytes.swap(bytes);
+}
+
 long mem_stream_tt::write(const void* data, unsigned long size)
 {
-    const auto* const bytes = static_cast<const char*>(data);
-    m_bytes.insert(m_bytes.end(), bytes, bytes + size);
+    const std::size_t end = m_bytes.size();
+    if (size > m_bytes.capacity() - end)
+        reserve(std::max(end + size, 2 * m_bytes.capacity()));
+    m_bytes.resize(end + size);
+    std::copy_n(static_cast<const char*>(data), size, m_bytes.data() + end);
     return static_cast<long>(size);
 }
 

@@ -220,6 +220,35 @@ TextFault findTextFault(std::string_view text)
     return text.size() > ShortTextSize ? findCrowdedElement(text) : NoFault;
 }
 
+std::size_t countEndTags(std::string_view text) noexcept
+{
+    std::size_t count = 0;
+    for (auto at = text.find("</"); at != std::string_view::npos; at = text.find("</", at + 2))
+        ++count;
+    return count;
+}
+
+std::size_t findStrayEndTag(std::string_view text) noexcept
+{
+    std::size_t depth = 0;
+    for (std::size_t at = 0; at < text.size();)
+    {
+        const auto stretch = stretchAt(text, at);
+        const auto tag = text.substr(stretch.begin, stretch.end - stretch.begin);
+        const bool isTag = tag.front() == '<' && stretch.hasReferences;
+        const bool isEnd = isTag && tag.substr(0, 2) == "</";
+        const bool isEmpty = isTag && tag.size() > 2 && tag.substr(tag.size() - 2) == "/>";
+        if (isEnd && depth == 0)
+            return stretch.begin;
+        if (isEnd)
+            --depth;
+        else if (isTag && !isEmpty)
+            ++depth;
+        at = stretch.end;
+    }
+    return text.size();
+}
+
 bool isCarriedByXml(std::string_view value) noexcept
 {
     return findControl(value) == value.size();

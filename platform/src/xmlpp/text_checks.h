@@ -18,6 +18,12 @@ struct TextFault
 /// attributes.
 TextFault findTextFault(std::string_view text);
 
+/// How often "</" stands in the text: at least as often as there are end tags.
+std::size_t countEndTags(std::string_view text) noexcept;
+
+/// Where an end tag stands that ends no element, or the size of the text. The parser stops there in silence.
+std::size_t findStrayEndTag(std::string_view text) noexcept;
+
 /// True when every byte may stand in XML: no control character but tab, CR and LF.
 bool isCarriedByXml(std::string_view value) noexcept;
 

@@ -40,6 +40,37 @@ void checkTopLevel(const tinyxml2::XMLDocument& document)
         refuse("no element", 1);
 }
 
+// The elements with an end tag of their own.
+std::size_t countOpenElements(const tinyxml2::XMLDocument& document)
+{
+    std::size_t count = 0;
+    const tinyxml2::XMLNode* node = &document;
+    while (node != nullptr)
+    {
+        const auto* element = node->ToElement();
+        if (element != nullptr && element->ClosingType() == tinyxml2::XMLElement::OPEN)
+            ++count;
+        const auto* next = node->FirstChild();
+        while (next == nullptr && node != nullptr)
+        {
+            next = node->NextSibling();
+            node = node->Parent();
+        }
+        node = next;
+    }
+    return count;
+}
+
+// The parser ends at an end tag that ends nothing and drops the rest in silence.
+void checkReadToTheEnd(const tinyxml2::XMLDocument& document, const std::string& text)
+{
+    if (detail::countEndTags(text) == countOpenElements(document))
+        return;
+    const auto stray = detail::findStrayEndTag(text);
+    if (stray != text.size())
+        refuse("end tag of nothing", lineAt(text, stray));
+}
+
 } // namespace
 
 CXmlDocument::CXmlDocument() : CXmlDocument(std::make_shared<tinyxml2::XMLDocument>()) {}
@@ -57,6 +88,7 @@ CXmlDocument CXmlDocument::Unserialize(const std::string& text)
     if (document->Parse(text.data(), text.size()) != tinyxml2::XML_SUCCESS)
         refuse(document->ErrorName(), std::max(document->ErrorLineNum(), 1));
     checkTopLevel(*document);
+    checkReadToTheEnd(*document, text);
     return CXmlDocument(std::move(document));
 }
 

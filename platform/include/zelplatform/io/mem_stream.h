@@ -18,6 +18,9 @@ public:
     explicit mem_stream_tt(crypto::sec_buffer_t bytes) noexcept;
     ~mem_stream_tt() override;
 
+    /// Makes room for so many bytes in all, so that writing them does not copy what is already there.
+    void reserve(unsigned long size);
+
     long write(const void* data, unsigned long size) override;
     long read(void* data, unsigned long size) override;
     long remaining() const override;

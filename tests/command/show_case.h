@@ -1,0 +1,47 @@
+#pragma once
+
+#include <fstream>
+#include <ostream>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "support/run_command.h"
+
+namespace zelmodel_test
+{
+
+/// The text of an example.
+inline std::string example(const std::string& name)
+{
+    std::ifstream file(std::string(ZELMODEL_EXAMPLES_DIR) + "/" + name, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// An example and everything that is shown of it.
+struct ShowCase
+{
+    const char* file;
+    const char* output;
+};
+
+inline std::ostream& operator<<(std::ostream& stream, const ShowCase& test)
+{
+    return stream << test.file;
+}
+
+/// The same is shown of the file and of its text on standard input.
+inline void expectShown(const ShowCase& test)
+{
+    for (const auto& result : {runCommand({"show", test.file}), runCommand({"show", "-"}, example(test.file))})
+    {
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_EQ(result.messages, "");
+        EXPECT_EQ(result.output, test.output);
+    }
+}
+
+} // namespace zelmodel_test
