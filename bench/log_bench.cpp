@@ -131,7 +131,6 @@ void scanLogLineByHand(benchmark::State& state)
 }
 BENCHMARK(scanLogLineByHand);
 
-const bool added =
-    zelmodel_bench::addFigure({"reading a log line", "parseLogLine", "scanLogLineByHand", 1.50});
+const bool added = zelmodel_bench::addFigure({"reading a log line", "parseLogLine", "scanLogLineByHand", 1.50});
 
 } // namespace

@@ -30,7 +30,8 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs)
     for (const auto& run : runs)
     {
         if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-            m_medians[run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args)] = run.GetAdjustedCPUTime();
+            m_medians[run.run_name.function_name + (run.run_name.args.empty() ? "" : "/" + run.run_name.args)] =
+                run.GetAdjustedCPUTime();
     }
 }
 

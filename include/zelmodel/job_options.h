@@ -1,8 +1,8 @@
 #pragma once
 
-/// The settings of a backup job: SBackupJobOptions reads a document in the agent's or the managing server's form, checks
-/// it and writes it in the agent's form. With it come compression and retention kinds, the long-term (GFS) policy and the
-/// flags of restore points, the indexing options, who owns the agent, and how databases are processed.
+/// The settings of a backup job: SBackupJobOptions reads a document in the agent's or the managing server's form,
+/// checks it and writes it in the agent's form. With it come compression and retention kinds, the long-term (GFS)
+/// policy and the flags of restore points, the indexing options, who owns the agent, and how databases are processed.
 
 #include <zelmodel/backup_job_compression.h>
 #include <zelmodel/backup_job_options.h>

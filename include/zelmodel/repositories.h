@@ -1,9 +1,9 @@
 #pragma once
 
-/// Repositories: what a target allows a job (CRepositoryLimitationsSpec), whether and how long its backups are immutable,
-/// the kind of an object storage and the parameters with which S3 storage is reached, and the cloud container that an
-/// agent writes to directly. The S3 records hold secrets as plain strings, in memory and in their documents: what may go
-/// to a log is SAmazonS3SpecificParams::ToLogStr.
+/// Repositories: what a target allows a job (CRepositoryLimitationsSpec), whether and how long its backups are
+/// immutable, the kind of an object storage and the parameters with which S3 storage is reached, and the cloud
+/// container that an agent writes to directly. The S3 records hold secrets as plain strings, in memory and in their
+/// documents: what may go to a log is SAmazonS3SpecificParams::ToLogStr.
 
 #include <zelmodel/enums/repository_immutability_mode.h>
 #include <zelmodel/structs/repository/backup_mode.h>

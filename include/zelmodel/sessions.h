@@ -1,9 +1,9 @@
 #pragma once
 
 /// Sessions: where a run's backup goes and how far it has come, the records of a task's log as the managing side sees
-/// them, the lines of a session log and their reader, where a restore point is mounted, what a job keeps between its runs,
-/// and the kinds of filters that make up a job's scope. CSessionLogLineParser skips what is no record and notes it in the
-/// log; all other readers throw.
+/// them, the lines of a session log and their reader, where a restore point is mounted, what a job keeps between its
+/// runs, and the kinds of filters that make up a job's scope. CSessionLogLineParser skips what is no record and notes
+/// it in the log; all other readers throw.
 
 #include <zelmodel/sessions/application_job_filter_type.h>
 #include <zelmodel/sessions/backup_job_state.h>

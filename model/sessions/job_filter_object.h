@@ -28,8 +28,8 @@ struct ZELMODEL_API EJobFilterObject
     /// The stored name; throws "Unable to convert filter to string. Unknown filter type: [%1].".
     static std::string toStr(type value);
 
-    /// Compares exactly, the older name "LVMObject" of a simple disk included; throws "Unable to convert string to filter
-    /// type. Unknown filter type string: [%1].".
+    /// Compares exactly, the older name "LVMObject" of a simple disk included; throws "Unable to convert string to
+    /// filter type. Unknown filter type string: [%1].".
     static type fromStr(const std::string& text);
 
     /// The words for people; throws "Unable to convert filter type to string. Unknown filter type: [%1].".

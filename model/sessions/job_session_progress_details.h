@@ -9,8 +9,8 @@
 namespace zelplatform::model
 {
 
-/// How far a session has come and where it waits, document "ProgressDetails". Sizes are in bytes, the speed in bytes per
-/// second, loads in percent.
+/// How far a session has come and where it waits, document "ProgressDetails". Sizes are in bytes, the speed in bytes
+/// per second, loads in percent.
 struct ZELMODEL_API SJobSessionProgressDetails
 {
     static constexpr const char* m_xml_ProgressDetails = "ProgressDetails";

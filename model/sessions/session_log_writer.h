@@ -10,8 +10,8 @@
 namespace zelplatform::model
 {
 
-/// The writer of a session log, which lives outside this library, and the words of severities that it and the readers of
-/// logs share.
+/// The writer of a session log, which lives outside this library, and the words of severities that it and the readers
+/// of logs share.
 class ZELMODEL_API ISessionLogWriter
 {
 public:

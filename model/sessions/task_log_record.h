@@ -35,8 +35,8 @@ struct ZELMODEL_API STaskLogRecord
     /// Returned to the writer unchanged.
     std::string cookie;
 
-    /// Throws "STaskLogRecord: Failed to unserial from mivo ..." for a missing argument, one of another type and an empty
-    /// pointer.
+    /// Throws "STaskLogRecord: Failed to unserial from mivo ..." for a missing argument, one of another type and an
+    /// empty pointer.
     static STaskLogRecord FromMivo(const std::shared_ptr<mivo::CMivoCommandArgs>& arguments);
 
     std::shared_ptr<mivo::CMivoCommandArgs> ToMivo() const;
@@ -47,9 +47,9 @@ struct ZELMODEL_API STaskLogRecord
 
     friend bool operator==(const STaskLogRecord& a, const STaskLogRecord& b)
     {
-        return a.status == b.status && a.ordinalId == b.ordinalId && a.updateUsn == b.updateUsn &&
-               a.title == b.title && a.description == b.description && a.updateTime == b.updateTime &&
-               a.object == b.object && a.startTime == b.startTime && a.cookie == b.cookie;
+        return a.status == b.status && a.ordinalId == b.ordinalId && a.updateUsn == b.updateUsn && a.title == b.title &&
+               a.description == b.description && a.updateTime == b.updateTime && a.object == b.object &&
+               a.startTime == b.startTime && a.cookie == b.cookie;
     }
     friend bool operator!=(const STaskLogRecord& a, const STaskLogRecord& b) { return !(a == b); }
 };

@@ -20,7 +20,8 @@ struct ZELMODEL_API SApplicationProcessingOracleConfig
 
     std::string ToXmlString() const;
 
-    /// A document without "LogsTruncateConfig" keeps the defaults. Throws exc::CRuntimeExc for what is missing or wrong.
+    /// A document without "LogsTruncateConfig" keeps the defaults. Throws exc::CRuntimeExc for what is missing or
+    /// wrong.
     static SApplicationProcessingOracleConfig FromXmlString(const std::string& text);
 
     friend bool operator==(const SApplicationProcessingOracleConfig& a, const SApplicationProcessingOracleConfig& b)

@@ -49,8 +49,8 @@ struct ZELMODEL_API SOracleArchivedLogsTruncationConfig
     /// Sets the three attributes of a "LogsTruncateConfig" element.
     void ToXml(xmlpp::CXmlNode& node) const;
 
-    /// Reads a "LogsTruncateConfig" element into this object: "mode" must be there, the others keep their value when they
-    /// are not. Nothing changes when the read fails.
+    /// Reads a "LogsTruncateConfig" element into this object: "mode" must be there, the others keep their value when
+    /// they are not. Nothing changes when the read fails.
     void FromXml(const xmlpp::CXmlNode& node);
 
     friend bool operator==(const SOracleArchivedLogsTruncationConfig& a, const SOracleArchivedLogsTruncationConfig& b)

@@ -15,10 +15,8 @@ struct FriendlyName
 };
 
 constexpr FriendlyName FriendlyNames[] = {
-    {EOwnershipMode::NotSet, "Standalone"},
-    {EOwnershipMode::QOR_Job, "Job"},
-    {EOwnershipMode::QOR_Policy, "Policy"},
-    {EOwnershipMode::QOR_CatchAll, "Pre-installed agent"},
+    {EOwnershipMode::NotSet, "Standalone"},      {EOwnershipMode::QOR_Job, "Job"},
+    {EOwnershipMode::QOR_Policy, "Policy"},      {EOwnershipMode::QOR_CatchAll, "Pre-installed agent"},
     {EOwnershipMode::PEL_ReadOnly, "Read-only"},
 };
 

@@ -18,7 +18,8 @@ struct ZELMODEL_API EOwnershipMode
     static constexpr const char* _CategoryPEL = "PEL";
     static constexpr const char* PEL_ReadOnly = "PEL.ReadOnly";
 
-    /// True when the mode begins with the category; no dot is needed after it, so "QORX" is of category "QOR", on purpose.
+    /// True when the mode begins with the category; no dot is needed after it, so "QORX" is of category "QOR", on
+    /// purpose.
     static bool IsInclude(const std::string& category, const std::string& mode);
 
     /// The words for people; throws "EOwnershipMode: Failed to convert [%2] to friendly name. Unexpected value: [%1].".

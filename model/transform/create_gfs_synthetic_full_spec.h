@@ -28,7 +28,8 @@ public:
     /// Failures of the text itself pass through unchanged, on purpose.
     static std::shared_ptr<CCreateGfsSyntheticFullSpec> FromString(const std::string& text);
 
-    /// Reads the element itself; its name is not looked at. Throws "Unable to parse xml create gfs synthetic specification.
+    /// Reads the element itself; its name is not looked at. Throws "Unable to parse xml create gfs synthetic
+    /// specification.
     /// ...".
     static std::shared_ptr<CCreateGfsSyntheticFullSpec> FromXmlNode(const xmlpp::CXmlNode& node);
 

@@ -28,15 +28,15 @@ public:
     /// Always CreateSyntheticFull, whatever a document said.
     ETransformOperationType::type GetTrasformOperationType() const override;
 
-    /// Writes the points as a list and the last of them in the older attribute too; without points the attribute is left
-    /// out.
+    /// Writes the points as a list and the last of them in the older attribute too; without points the attribute is
+    /// left out.
     std::string ToString() const override;
 
     /// Throws "Unable to parse string create synthetic specification. ...".
     static std::shared_ptr<CCreateSyntheticFullSpec> FromString(const std::string& text);
 
-    /// Reads the element itself; its name is not looked at. The list counts when there is one, else the single point. Throws
-    /// "Unable to parse xml create synthetic specification. ...".
+    /// Reads the element itself; its name is not looked at. The list counts when there is one, else the single point.
+    /// Throws "Unable to parse xml create synthetic specification. ...".
     static std::shared_ptr<CCreateSyntheticFullSpec> FromXmlNode(const xmlpp::CXmlNode& node);
 
 private:

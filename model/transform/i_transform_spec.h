@@ -30,8 +30,8 @@ public:
     /// The document as text.
     virtual std::string ToString() const = 0;
 
-    /// Reads the element as the specification of the type: 0 deletes points, 1 creates a synthetic full. Any other type,
-    /// the GFS synthetic full's too, throws "Not implemented.".
+    /// Reads the element as the specification of the type: 0 deletes points, 1 creates a synthetic full. Any other
+    /// type, the GFS synthetic full's too, throws "Not implemented.".
     static std::shared_ptr<ITransformSpec> UnserializeSpec(const xmlpp::CXmlNode& node,
                                                            ETransformOperationType::type type);
 };

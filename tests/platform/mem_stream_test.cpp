@@ -32,6 +32,27 @@ TEST(MemStreamTest, AppendsAndReadsFromTheFront)
     EXPECT_EQ(content(stream), "abcdef");
 }
 
+TEST(MemStreamTest, KeepsItsBytesWhereRoomWasMade)
+{
+    io::mem_stream_tt stream;
+    stream.write("abc", 3);
+    char byte = 0;
+    EXPECT_EQ(stream.read(&byte, 1), 1);
+    stream.reserve(100000);
+    const char* const bytes = stream.buffer().data();
+    for (int i = 0; i < 9999; ++i)
+        stream.write("0123456789", 10);
+    EXPECT_EQ(stream.buffer().data(), bytes);
+    EXPECT_EQ(stream.buffer().size(), 99993U);
+    EXPECT_EQ(content(stream).substr(0, 8), "abc01234");
+    EXPECT_EQ(stream.remaining(), 99992);
+
+    stream.reserve(5);
+    EXPECT_EQ(stream.buffer().size(), 99993U);
+    stream.write(std::string(100, 'x').data(), 100);
+    EXPECT_EQ(content(stream).substr(99990), "789" + std::string(100, 'x'));
+}
+
 TEST(MemStreamTest, GivesTheBytesThatAreLeft)
 {
     const std::string text = "abc";

@@ -19,11 +19,12 @@ struct ZELMODEL_API SExplicitBackupKeys
     guid::guid_t id;
     std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
 
-    /// The identifier, the number of entries in eight bytes, then each identifier and key set in order. An empty pointer
-    /// throws before anything is written.
+    /// The identifier, the number of entries in eight bytes, then each identifier and key set in order. An empty
+    /// pointer throws before anything is written.
     void Serialize(io::binary_stream_tt& stream) const;
 
-    /// Reads what Serialize writes; of a repeated identifier the last entry counts. Nothing changes when the read fails.
+    /// Reads what Serialize writes; of a repeated identifier the last entry counts. Nothing changes when the read
+    /// fails.
     void Unserialize(io::binary_stream_tt& stream);
 
     std::string ToBase64() const;
@@ -38,8 +39,8 @@ struct ZELMODEL_API SPasswordDerivedKey
     /// At most 255 bytes.
     std::shared_ptr<crypto::sec_buffer_t> buffer;
 
-    /// The key set, the buffer's length in one byte, the buffer. An empty pointer or a longer buffer throws before anything
-    /// is written.
+    /// The key set, the buffer's length in one byte, the buffer. An empty pointer or a longer buffer throws before
+    /// anything is written.
     void Serialize(io::binary_stream_tt& stream) const;
 
     /// Reads what Serialize writes. Nothing changes when the read fails.

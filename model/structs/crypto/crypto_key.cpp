@@ -38,8 +38,9 @@ try
 }
 catch (std::exception& cause)
 {
-    const auto context = util::str_format("Failed to convert SCryptoKey to CKeySetPtr. ID: %1, type: %2, keyset ID: ",
-                                          util::toStr(id), ECryptoKeyType::ToLogString(type));
+    const auto context =
+        util::str_format("Failed to convert SCryptoKey to CKeySetPtr. ID: %1, type: %2, keyset ID: ", util::toStr(id),
+                         ECryptoKeyType::ToLogString(type));
     exc::RegenExc(context + keySetId.ToLogString(), cause);
 }
 

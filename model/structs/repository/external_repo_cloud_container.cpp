@@ -44,7 +44,8 @@ try
     SExternalRepoCloudContainer container;
     container.regionId = root.GetAttribute(names::RegionId);
     container.repositoryName = root.GetAttribute(names::RepoName);
-    const auto clientId = cloudbackuplib::CCloudRepoClientId::Deserialize(std::string(root.GetAttribute(names::ClientId)));
+    const auto clientId =
+        cloudbackuplib::CCloudRepoClientId::Deserialize(std::string(root.GetAttribute(names::ClientId)));
     container.clientId = cloudbackuplib::CCloudRepoClientId(clientId.GetGuid());
     container.clientDescription = root.GetAttribute(names::ClientDescription);
     container.isObjectLockEnabled = root.GetBoolAttribute(names::IsObjectLockEnabled);

@@ -25,7 +25,8 @@ struct ZELMODEL_API SCloudContainerEncryption
 };
 
 /// A repository in a cloud container (a bucket) that the agent reaches directly. Its string form, document "root" with
-/// dotted attribute names, carries only a part of the record, and the secret access key in clear: treat the text as secret.
+/// dotted attribute names, carries only a part of the record, and the secret access key in clear: treat the text as
+/// secret.
 struct ZELMODEL_API SExternalRepoCloudContainer
 {
     using S3Params = boost::variant<SAmazonS3SpecificParams>;
@@ -51,8 +52,8 @@ struct ZELMODEL_API SExternalRepoCloudContainer
     /// The string form, with an XML declaration. Throws "Failed to SExternalRepoCloudContainer::Serialize. ...".
     std::string Serialize() const;
 
-    /// Reads the string form; what it does not carry is empty, and the credentials' update time is now. Throws "Failed to
-    /// SExternalRepoCloudContainer::Unserialize. ...".
+    /// Reads the string form; what it does not carry is empty, and the credentials' update time is now. Throws "Failed
+    /// to SExternalRepoCloudContainer::Unserialize. ...".
     static SExternalRepoCloudContainer Unserialize(const std::string& text);
 };
 

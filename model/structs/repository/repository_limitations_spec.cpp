@@ -43,7 +43,8 @@ std::string CRepositoryLimitationsSpec::ToString() const
     return document.Serialize(false);
 }
 
-// Read from the last attribute to the first, so that of several faults the last one is told. The mode is cut to 32 bits.
+// Read from the last attribute to the first, so that of several faults the last one is told. The mode is cut to 32
+// bits.
 CRepositoryLimitationsSpec CRepositoryLimitationsSpec::FromXmlNode(const xmlpp::CXmlNode& parent)
 try
 {

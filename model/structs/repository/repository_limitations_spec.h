@@ -50,8 +50,8 @@ public:
     /// repository limitations specification. ...".
     static CRepositoryLimitationsSpec FromXmlNode(const xmlpp::CXmlNode& parent);
 
-    /// Reads a document whose root holds a child "JobSettings"; a text of ToString has to be put into such a root first,
-    /// on purpose. Throws "Unable to parse string repository limitations specification. ...".
+    /// Reads a document whose root holds a child "JobSettings"; a text of ToString has to be put into such a root
+    /// first, on purpose. Throws "Unable to parse string repository limitations specification. ...".
     static CRepositoryLimitationsSpec FromString(const std::string& text);
 
     friend bool operator==(const CRepositoryLimitationsSpec& a, const CRepositoryLimitationsSpec& b)

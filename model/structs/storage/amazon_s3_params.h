@@ -50,12 +50,13 @@ struct ZELMODEL_API SAmazonS3Endpoint
     /// Empties the texts and removes the proxy.
     void Clear();
 
-    /// Adds the child to the parent; an empty fingerprint is left out. Throws "Failed to convert SAmazonS3Endpoint to xml.
+    /// Adds the child to the parent; an empty fingerprint is left out. Throws "Failed to convert SAmazonS3Endpoint to
+    /// xml.
     /// ...".
     void ToXmlNode(xmlpp::CXmlNode& parent) const;
 
-    /// Reads the child. A "ServerCertificate" (PEM) is kept as its fingerprint only; a "Fingerprint" beside it wins. Throws
-    /// "Failed to parse SAmazonS3Endpoint from XML. ...".
+    /// Reads the child. A "ServerCertificate" (PEM) is kept as its fingerprint only; a "Fingerprint" beside it wins.
+    /// Throws "Failed to parse SAmazonS3Endpoint from XML. ...".
     static SAmazonS3Endpoint FromXmlNode(const xmlpp::CXmlNode& parent);
 
     friend bool operator==(const SAmazonS3Endpoint& a, const SAmazonS3Endpoint& b)
@@ -84,8 +85,8 @@ struct ZELMODEL_API SAmazonS3Credentials
     /// Adds the child to the parent, secrets in clear.
     void ToXmlNode(xmlpp::CXmlNode& parent) const;
 
-    /// Reads the child; all five texts must be there and may be empty. Without "LastUpdateTimeUtc" the time is now. Throws
-    /// "Failed to parse SAmazonS3Credentials from xml. ...".
+    /// Reads the child; all five texts must be there and may be empty. Without "LastUpdateTimeUtc" the time is now.
+    /// Throws "Failed to parse SAmazonS3Credentials from xml. ...".
     static SAmazonS3Credentials FromXmlNode(const xmlpp::CXmlNode& parent);
 
     friend bool operator==(const SAmazonS3Credentials& a, const SAmazonS3Credentials& b)

@@ -9,8 +9,8 @@
 namespace zelplatform::model::structs
 {
 
-/// Immutability of an object-storage repository, element "ImmutabilitySettings". The mode is read and never written: the
-/// managing side supplies it.
+/// Immutability of an object-storage repository, element "ImmutabilitySettings". The mode is read and never written:
+/// the managing side supplies it.
 struct ZELMODEL_API SObjectStorageImmutabilitySettings
 {
     bool isEnabled = false;

@@ -27,8 +27,8 @@ struct ZELMODEL_API EObjectStorageType
     /// The same text as ToStr.
     static std::string ToUserFriendlyStr(type value);
 
-    /// Compares exactly. "Unknown" is written and not read, on purpose. Throws "Failed to convert string to object storage
-    /// type. ...".
+    /// Compares exactly. "Unknown" is written and not read, on purpose. Throws "Failed to convert string to object
+    /// storage type. ...".
     static type FromStr(const std::string& text);
 
     /// True for the kinds that speak the S3 protocol.

@@ -16,8 +16,8 @@ public:
     /// The longest text that is read, in bytes.
     static constexpr std::size_t MaxTextSize = 256UL * 1024 * 1024;
 
-    /// The most attributes that one element of a text may have; looked at in texts of 16 KiB and more only, shorter ones
-    /// cannot hold enough to matter.
+    /// The most attributes that one element of a text may have; looked at in texts of 16 KiB and more only, shorter
+    /// ones cannot hold enough to matter.
     static constexpr unsigned MaxAttributes = 1024;
 
     /// An empty document.
