@@ -1,12 +1,9 @@
 #include "document.h"
 
-#include <array>
-#include <optional>
-#include <string_view>
+#include <utility>
 
-#include <zelmodel/backup_job_options.h>
-#include <zelmodel/structs/gfs/gfs_policy_info.h>
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
 
 #include "document_names.h"
 #include "visitors.h"
@@ -16,58 +13,52 @@ namespace describe
 namespace
 {
 
-using zelplatform::model::SBackupJobOptions;
-using zelplatform::model::structs::BackupWindow;
-using zelplatform::model::structs::CScheduleOptions;
-using zelplatform::model::structs::gfs::SGfsPolicyInfo;
-using zelplatform::model::structs::gfs::SGfsWeeklyPolicyInfoTraits;
-using zelplatform::model::structs::gfs::SMonthlyGfsPolicyInfoTraits;
-using zelplatform::model::structs::gfs::SYearlyGfsPolicyInfoTraits;
+namespace model = zelplatform::model;
+namespace gfs = zelplatform::model::structs::gfs;
+namespace structs = zelplatform::model::structs;
+namespace transform = zelplatform::model::transform;
 
-struct KindRow
+/// A document on its way to a visitor.
+class Source
 {
-    const char* root;
-    EDocumentKind kind;
-    const char* name;
+public:
+    Source(const std::string& text, const xmlpp::CXmlDocument& xml) : m_text(text), m_xml(xml) {}
+
+    xmlpp::CXmlNode top() const { return m_xml.ToNode(); }
+    xmlpp::CXmlNode root() const { return m_xml.GetRootNode(); }
+
+    Place topPlace() const { return Place(m_xml, top()); }
+    Place rootPlace() const { return Place(m_xml, root()); }
+    Place placeOf(const xmlpp::CXmlNode& node) const { return Place(m_xml, node); }
+
+    /// The parent of an element that is the root or stands below it.
+    xmlpp::CXmlNode parentOf(const char* element) const { return root().GetName() == element ? top() : root(); }
+
+    /// The text, for records that are read from nothing else. Their reader parses it once more, so that this document
+    /// knows no line of a refusal but that of its element.
+    const std::string& textOfRoot() const
+    {
+        top().HasNode(root().GetName());
+        return m_text;
+    }
+
+private:
+    const std::string& m_text;
+    const xmlpp::CXmlDocument& m_xml;
 };
-
-constexpr std::array<KindRow, 8> Kinds{{
-    {job_names::JobOptionsRoot, EDocumentKind::ServerJobOptions, "job options in the managing server's form"},
-    {job_names::JobOptions, EDocumentKind::AgentJobOptions, "job options in the agent's form"},
-    {schedule_names::ScheduleOptions, EDocumentKind::ScheduleOptions, "schedule options"},
-    {schedule_names::Schedule, EDocumentKind::LoneSchedule, "a schedule without a root of its own"},
-    {schedule_names::ActiveFullOptions, EDocumentKind::LoneSchedule, "a schedule without a root of its own"},
-    {schedule_names::SyntheticFullOptions, EDocumentKind::LoneSchedule, "a schedule without a root of its own"},
-    {BackupWindow::BackupWindowTag, EDocumentKind::ScheduleWindow, "a backup window"},
-    {job_names::GfsPolicy, EDocumentKind::GfsPolicy, "a GFS policy"},
-}};
-
-std::string listKnownRoots()
-{
-    std::string text;
-    for (const auto& row : Kinds)
-        text += (text.empty() ? "" : ", ") + std::string(row.root);
-    return text;
-}
 
 bool isOneOf(EDocumentKind kind, EDocumentKind a, EDocumentKind b)
 {
     return kind == a || kind == b;
 }
 
-bool usesShortNames(const xmlpp::CXmlNode& policy)
-{
-    return !policy.HasNode(SGfsWeeklyPolicyInfoTraits::LongElement) &&
-           !policy.HasNode(SMonthlyGfsPolicyInfoTraits::LongElement) &&
-           !policy.HasNode(SYearlyGfsPolicyInfoTraits::LongElement);
-}
-
 // The refusal of a whole record comes after its last part was read, and would be told of that part's line.
 void pointAtRuleOfWholeRecord(const xmlpp::CXmlNode& top)
 {
+    using model::SBackupJobOptions;
     try
     {
-        SBackupJobOptions job(zelplatform::model::KbBlockSize::KbBlockSize1024);
+        SBackupJobOptions job(model::KbBlockSize::KbBlockSize1024);
         if (SBackupJobOptions::tryParseQorJobOptions(top, job))
             top.GetFirstChildNode(job_names::JobOptionsRoot).HasNode(job_names::RetainCycles);
         else
@@ -82,11 +73,11 @@ void pointAtRuleOfWholeRecord(const xmlpp::CXmlNode& top)
     }
 }
 
-SBackupJobOptions readJobOptions(const xmlpp::CXmlNode& top)
+model::SBackupJobOptions readJobOptions(const xmlpp::CXmlNode& top)
 {
     try
     {
-        return SBackupJobOptions::fromXml(top);
+        return model::SBackupJobOptions::fromXml(top);
     }
     catch (const std::exception&)
     {
@@ -95,80 +86,129 @@ SBackupJobOptions readJobOptions(const xmlpp::CXmlNode& top)
     }
 }
 
-} // namespace
-
-std::string nameOf(EDocumentKind kind)
+Node describeJobOptions(const Source& source, bool isServerForm)
 {
-    for (const auto& row : Kinds)
-    {
-        if (row.kind == kind)
-            return row.name;
-    }
-    return {};
+    const auto* root = isServerForm ? job_names::JobOptionsRoot : job_names::JobOptions;
+    const auto top = source.top();
+    return visitJobOptions(readJobOptions(top), source.placeOf(top.GetFirstChildNode(root)), isServerForm);
 }
 
-Document::Document(const std::string& text) : m_xml(xmlpp::CXmlDocument::Unserialize(text)) {}
+bool usesShortNames(const xmlpp::CXmlNode& policy)
+{
+    return !policy.HasNode(gfs::SGfsWeeklyPolicyInfoTraits::LongElement) &&
+           !policy.HasNode(gfs::SMonthlyGfsPolicyInfoTraits::LongElement) &&
+           !policy.HasNode(gfs::SYearlyGfsPolicyInfoTraits::LongElement);
+}
+
+Node describeGfsPolicy(const Source& source)
+{
+    const bool isShortNames = usesShortNames(source.root());
+    return visitGfsPolicy(gfs::SGfsPolicyInfo::fromXml(source.top(), isShortNames), source.rootPlace(), isShortNames);
+}
+
+Node describeLimitations(const Source& source)
+{
+    const auto parent = source.parentOf(repository_names::JobSettings);
+    return visitRepositoryLimitations(structs::CRepositoryLimitationsSpec::FromXmlNode(parent),
+                                      source.placeOf(parent.GetFirstChildNode(repository_names::JobSettings)));
+}
+
+Node describeImmutability(const Source& source)
+{
+    const auto parent = source.parentOf(storage_names::ImmutabilitySettings);
+    return visitImmutability(structs::SObjectStorageImmutabilitySettings::FromXml(parent),
+                             source.placeOf(parent.GetFirstChildNode(storage_names::ImmutabilitySettings)));
+}
+
+Node describeDirectImmutability(const Source& source)
+{
+    using structs::SDirectBackupImmutabilitySettings;
+    const auto parent = source.parentOf(storage_names::DirectBackupImmutabilitySettings);
+    return visitDirectImmutability(SDirectBackupImmutabilitySettings::FromXml(parent),
+                                   source.placeOf(SDirectBackupImmutabilitySettings::GetXmlNode(parent)));
+}
+
+// The library only writes it.
+structs::SSqlVariant readSqlVariant(const xmlpp::CXmlNode& root)
+{
+    structs::SSqlVariant variant;
+    variant.type = util::fromStr<int>(root.GetAttribute(record_names::Type));
+    variant.value = root.GetAttribute(record_names::Value);
+    return variant;
+}
+
+} // namespace
+
+Document::Document(std::string text) : m_text(std::move(text)), m_xml(xmlpp::CXmlDocument::Unserialize(m_text)) {}
 
 EDocumentKind Document::kind() const
 {
-    const auto top = m_xml.ToNode();
-    for (const auto* first : {job_names::JobOptionsRoot, job_names::JobOptions})
-    {
-        if (top.HasNode(first))
-            return first == job_names::JobOptionsRoot ? EDocumentKind::ServerJobOptions
-                                                      : EDocumentKind::AgentJobOptions;
-    }
-    const auto root = m_xml.GetRootNode().GetName();
-    top.HasNode(root);
-    for (const auto& row : Kinds)
-    {
-        if (root == row.root)
-            return row.kind;
-    }
-    throw exc::CRuntimeExc("The element [%1] begins no document that is known (known are %2).", root, listKnownRoots());
+    return kindOf(m_xml);
 }
 
 Node Document::describe() const
 {
-    const auto top = m_xml.ToNode();
     const auto found = kind();
+    const Source source(m_text, m_xml);
+    const auto root = source.root();
+    const auto place = source.rootPlace();
     switch (found)
     {
-    case EDocumentKind::AgentJobOptions:
-    case EDocumentKind::ServerJobOptions:
-    {
-        const bool isServerForm = found == EDocumentKind::ServerJobOptions;
-        const auto* root = isServerForm ? job_names::JobOptionsRoot : job_names::JobOptions;
-        return visitJobOptions(readJobOptions(top), Place(m_xml, top.GetFirstChildNode(root)), isServerForm);
+    case EDocumentKind::AgentJobOptions: return describeJobOptions(source, false);
+    case EDocumentKind::ServerJobOptions: return describeJobOptions(source, true);
+    case EDocumentKind::ScheduleOptions: return visitSchedule(readSchedule(), place);
+    case EDocumentKind::LoneSchedule: return visitSchedule(readSchedule(), source.topPlace());
+    case EDocumentKind::ScheduleWindow: return visitWindow(*readWindow(), place);
+    case EDocumentKind::GfsPolicy: return describeGfsPolicy(source);
+    case EDocumentKind::OracleConfig:
+        return visitOracleConfig(structs::SApplicationProcessingOracleConfig::FromXmlString(source.textOfRoot()),
+                                 place);
+    case EDocumentKind::PostgresConfig:
+        return visitPostgresConfig(structs::SApplicationProcessingPostgresConfig::FromXmlString(source.textOfRoot()),
+                                   place);
+    case EDocumentKind::RepositoryLimitations: return describeLimitations(source);
+    case EDocumentKind::Immutability: return describeImmutability(source);
+    case EDocumentKind::DirectImmutability: return describeDirectImmutability(source);
+    case EDocumentKind::S3Params:
+        return visitS3Params(structs::SAmazonS3SpecificParams::FromXmlNode(source.top()), place);
+    case EDocumentKind::CloudContainer:
+        return visitCloudContainer(structs::SExternalRepoCloudContainer::Unserialize(source.textOfRoot()), place);
+    case EDocumentKind::SqlVariant: return visitSqlVariant(readSqlVariant(root), place);
+    case EDocumentKind::SessionDetails:
+        return visitSessionDetails(model::JobSessionDetails::fromXmlStr(source.textOfRoot()), place);
+    case EDocumentKind::SessionProgress:
+        return visitSessionProgress(model::SJobSessionProgressDetails::FromXml(source.textOfRoot()), place);
+    case EDocumentKind::TaskLogRecord: return visitTaskLogRecord(model::STaskLogRecord::FromXml(root), place);
+    case EDocumentKind::MountSession:
+        return visitMountSession(model::SMountSessionDetails::FromXmlStr(source.textOfRoot()), place);
+    case EDocumentKind::JobState: return visitJobState(model::SBackupJobState::FromXmlStr(source.textOfRoot()), place);
+    case EDocumentKind::DeletePointTransform:
+        return visitDeletePointTransform(*transform::CTransformSpec::FromXmlNode(root), place);
+    case EDocumentKind::SyntheticFullTransform:
+        return visitSyntheticFullTransform(*transform::CCreateSyntheticFullSpec::FromXmlNode(root), place);
+    case EDocumentKind::GfsSyntheticFullTransform: break;
     }
-    case EDocumentKind::ScheduleOptions: return visitSchedule(readSchedule(), Place(m_xml, m_xml.GetRootNode()));
-    case EDocumentKind::LoneSchedule: return visitSchedule(readSchedule(), Place(m_xml, top));
-    case EDocumentKind::ScheduleWindow: return visitWindow(*readWindow(), Place(m_xml, m_xml.GetRootNode()));
-    case EDocumentKind::GfsPolicy: break;
-    }
-    const auto root = m_xml.GetRootNode();
-    const bool isShortNames = usesShortNames(root);
-    return visitGfsPolicy(SGfsPolicyInfo::fromXml(top, isShortNames), Place(m_xml, root), isShortNames);
+    return visitGfsSyntheticFullTransform(*transform::CCreateGfsSyntheticFullSpec::FromXmlNode(root), place);
 }
 
-CScheduleOptions Document::readSchedule() const
+structs::CScheduleOptions Document::readSchedule() const
 {
     const auto found = kind();
     if (isOneOf(found, EDocumentKind::AgentJobOptions, EDocumentKind::ServerJobOptions))
         return readJobOptions(m_xml.ToNode()).schedule;
     if (found == EDocumentKind::ScheduleOptions)
-        return CScheduleOptions::FromXml(m_xml.GetRootNode());
+        return structs::CScheduleOptions::FromXml(m_xml.GetRootNode());
     if (found == EDocumentKind::LoneSchedule)
-        return CScheduleOptions::FromXml(m_xml.ToNode());
+        return structs::CScheduleOptions::FromXml(m_xml.ToNode());
     throw exc::CRuntimeExc("The document is %1, which has no schedule.", nameOf(found));
 }
 
-std::shared_ptr<BackupWindow> Document::readWindow() const
+std::shared_ptr<structs::BackupWindow> Document::readWindow() const
 {
     const auto found = kind();
     if (found != EDocumentKind::ScheduleWindow)
         throw exc::CRuntimeExc("The document is %1, not a backup window.", nameOf(found));
-    return BackupWindow::fromXml(m_xml.ToNode());
+    return structs::BackupWindow::fromXml(m_xml.ToNode());
 }
 
 } // namespace describe

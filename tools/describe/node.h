@@ -47,4 +47,12 @@ inline Node makeDetail(std::string name, std::string label, std::string value, s
     return Node{std::move(name), std::move(label), std::move(value), std::move(words), line, false, true, {}};
 }
 
+/// A field that no renderer shows unless it is told to. An empty one hides nothing and is an ordinary field.
+inline Node makeSecret(std::string name, std::string label, std::string value, int line)
+{
+    const bool isSecret = !value.empty();
+    std::string words = isSecret ? value : "none";
+    return Node{std::move(name), std::move(label), std::move(value), std::move(words), line, isSecret, false, {}};
+}
+
 } // namespace describe

@@ -40,4 +40,14 @@ Place Place::child(xmlpp::CXmlName name) const
     return Place(m_document, m_node ? m_node->FindChildNode(name) : std::nullopt);
 }
 
+std::vector<Place> Place::children(xmlpp::CXmlName name) const
+{
+    std::vector<Place> places;
+    if (!m_node)
+        return places;
+    for (const auto& node : m_node->GetChildNodes(name))
+        places.emplace_back(m_document, node);
+    return places;
+}
+
 } // namespace describe

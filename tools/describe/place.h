@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <zelplatform/xmlpp/xml_document.h>
 #include <zelplatform/xmlpp/xml_node.h>
@@ -33,6 +34,9 @@ public:
 
     /// The first child of the name.
     Place child(xmlpp::CXmlName name) const;
+
+    /// The children of the name in document order.
+    std::vector<Place> children(xmlpp::CXmlName name) const;
 
     /// An element that is missing in the same document.
     Place none() const { return Place(m_document, std::nullopt); }

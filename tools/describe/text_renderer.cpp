@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "terminal_text.h"
+#include "words.h"
 
 namespace describe
 {
@@ -14,7 +15,6 @@ namespace
 constexpr std::size_t Indent = 2;
 constexpr std::size_t Gap = 2;
 constexpr std::size_t NarrowestWords = 20;
-constexpr const char* Hidden = "(hidden)";
 
 struct Line
 {
@@ -32,7 +32,7 @@ std::size_t columnsOf(std::string_view text)
 std::string shownWords(const Node& node, const TextStyle& style)
 {
     if (node.secret && !style.showsSecrets)
-        return Hidden;
+        return "(hidden, " + countOf(columnsOf(node.words), "character") + ')';
     return printable(shortened(node.words, style.longestWords));
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include <zelmodel/size/size.h>
 #include <zelplatform/util/util.h>
 
 namespace describe
@@ -20,6 +21,21 @@ constexpr std::array<std::pair<unsigned long, const char*>, 4> TimeUnits{
 std::string countOf(unsigned long count, const std::string& thing)
 {
     return util::toStr(count) + ' ' + thing + (count == 1 ? "" : "s");
+}
+
+std::string countOfSigned(long count, const std::string& thing)
+{
+    return count < 0 ? util::toStr(count) + ' ' + thing + 's' : countOf(static_cast<unsigned long>(count), thing);
+}
+
+std::string sizeOf(unsigned long bytes)
+{
+    return zelplatform::CSize(bytes).ToNBytesStr();
+}
+
+std::string identifierOf(const guid::guid_t& id)
+{
+    return id.IsEmpty() ? "none" : util::toStr(id);
 }
 
 std::string onOrOff(bool on)
@@ -55,6 +71,11 @@ std::string isoDate(const datetime::CDateTime& date)
 std::string clockTime(const datetime::CDateTime& moment)
 {
     return moment.toStdString("%H:%M");
+}
+
+std::string momentUtc(const datetime::CDateTime& moment)
+{
+    return moment.toStdString("%Y-%m-%d %H:%M:%S") + " UTC";
 }
 
 std::string weekDay(const datetime::CDateTime& date)

@@ -58,10 +58,7 @@ catch (const std::exception&)
 void defineShow(CLI::App& app, ShowArguments& arguments)
 {
     auto& command = *app.add_subcommand("show", "Tell in words what a document holds");
-    command
-        .add_option("FILE", arguments.file,
-                    "Job options, schedule options, backup window or GFS policy; - is standard input")
-        ->required();
+    command.add_option("FILE", arguments.file, "A document of any kind; - is standard input")->required();
 }
 
 void defineNext(CLI::App& app, NextArguments& arguments)
