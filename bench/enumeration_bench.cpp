@@ -1,11 +1,11 @@
 #include <string>
 
 #include <benchmark/benchmark.h>
-#include <magic_enum.hpp>
 
 #include <zelmodel/enumerations.h>
 
 #include "ratio_table.h"
+#include "reflected_conversions.h"
 
 namespace
 {
@@ -30,7 +30,7 @@ void blockSizeToTextByReflection(benchmark::State& state)
 {
     std::size_t i = 0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(std::string(magic_enum::enum_name(Sizes[i++ % Count])));
+        benchmark::DoNotOptimize(zelmodel_bench::blockSizeName(Sizes[i++ % Count]));
 }
 BENCHMARK(blockSizeToTextByReflection);
 
@@ -48,7 +48,7 @@ void blockSizeFromTextByReflection(benchmark::State& state)
     const auto texts = KbBlockSize::toStringList();
     std::size_t i = 0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(magic_enum::enum_cast<KbBlockSize::type>(texts[i++ % Count]));
+        benchmark::DoNotOptimize(zelmodel_bench::blockSizeOf(texts[i++ % Count]));
 }
 BENCHMARK(blockSizeFromTextByReflection);
 
@@ -67,8 +67,7 @@ void repositoryFromTextByReflection(benchmark::State& state)
     const auto texts = BackupRepositoryType::toStringList();
     std::size_t i = 0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(
-            magic_enum::enum_cast<BackupRepositoryType::type>(texts[i++ % texts.size()], magic_enum::case_insensitive));
+        benchmark::DoNotOptimize(zelmodel_bench::repositoryOf(texts[i++ % texts.size()]));
 }
 BENCHMARK(repositoryFromTextByReflection);
 

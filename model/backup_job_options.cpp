@@ -8,19 +8,12 @@ namespace
 {
 
 constexpr unsigned long FirstCountTooLarge = 731;
-constexpr unsigned long DefaultCount = 7;
 constexpr unsigned long DefaultRetryTimeoutMs = 600000;
 
 } // namespace
 
-SBackupJobOptions::SBackupJobOptions(KbBlockSize::type size)
-{
-    retentionType = ERetentionType::Days;
-    maxPoints = DefaultCount;
-    maxDays = DefaultCount;
-    setDefault();
-    blockSize = size;
-}
+// The members start as setDefault sets them: a new schedule is a reset one.
+SBackupJobOptions::SBackupJobOptions(KbBlockSize::type size) : blockSize(size) {}
 
 void SBackupJobOptions::setDefault()
 {

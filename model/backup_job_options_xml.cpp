@@ -124,14 +124,14 @@ try
     // "EnableDeletedVmDataRetention" is written and not looked at here, on purpose.
     readRetainDays(root, options.deletedVmDataRetentionDays);
     options.indexing = structs::SIndexingOptions::FromXml(root);
-    options.schedule = structs::CScheduleOptions::FromXml(root);
+    options.schedule.ReadXml(root);
     detail::readIfPresent(root, names::IgnoreFreezeThawFailures, options.ignoreFreezeThawFailures);
     detail::readIfPresent(root, names::FreezeThawScriptsTimeout, options.freezeThawScriptsTimeout);
     detail::readIfPresent(root, names::ProductSpecific, options.productSpecific);
     if (const auto mode = root.FindAttribute(names::SnapshotMode))
         options.snapshotMode = ESnapshotMode::FromString(std::string(*mode));
-    if (structs::gfs::SGfsPolicyInfo::isExistInXml(root))
-        options.gfsPolicy = structs::gfs::SGfsPolicyInfo::fromXml(root, true);
+    if (const auto policy = root.FindChildNode(names::GfsPolicy))
+        options.gfsPolicy = structs::gfs::SGfsPolicyInfo::fromXmlImpl(*policy, true);
     return options;
 }
 catch (std::exception& cause)

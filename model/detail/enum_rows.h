@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zelplatform::model::detail
@@ -18,8 +19,8 @@ enum class ERowUse
     WriteOnly, ///< written, never read back
 };
 
-/// One row of an enumeration: the value and its stored text. Every enumeration is a constexpr array of rows; texts are
-/// compared in the order of the rows.
+/// One row of an enumeration: the value and its stored text, which is never empty. Every enumeration is a constexpr
+/// array of rows; texts are compared in the order of the rows.
 template <class TEnum>
 struct EnumRow
 {
@@ -31,28 +32,20 @@ struct EnumRow
 template <class TEnum, std::size_t N>
 using EnumRows = std::array<EnumRow<TEnum>, N>;
 
-/// The text of a value, or nothing when it has none. Each conversion throws its own message then.
-template <class TEnum, std::size_t N>
-std::optional<std::string_view> findText(const EnumRows<TEnum, N>& rows, TEnum value) noexcept
+template <class TEnum, std::size_t N, class TMatch, std::size_t... I>
+constexpr const EnumRow<TEnum>* firstRowOf(const EnumRows<TEnum, N>& rows, const TMatch& isMatch,
+                                           std::index_sequence<I...> /*all*/) noexcept
 {
-    for (const auto& row : rows)
-    {
-        if (row.value == value && row.use != ERowUse::ReadOnly)
-            return row.text;
-    }
-    return std::nullopt;
+    const EnumRow<TEnum>* found = nullptr;
+    static_cast<void>(((isMatch(rows[I]) && (found = &rows[I], true)) || ...));
+    return found;
 }
 
-/// The value of a text compared exactly, or nothing.
-template <class TEnum, std::size_t N>
-std::optional<TEnum> findValue(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
+/// The first row that matches, or none. The walk is unrolled, so that values and texts are constants in it.
+template <class TEnum, std::size_t N, class TMatch>
+constexpr const EnumRow<TEnum>* firstRow(const EnumRows<TEnum, N>& rows, const TMatch& isMatch) noexcept
 {
-    for (const auto& row : rows)
-    {
-        if (row.text == text && row.use != ERowUse::WriteOnly)
-            return row.value;
-    }
-    return std::nullopt;
+    return firstRowOf(rows, isMatch, std::make_index_sequence<N>());
 }
 
 constexpr char toLowerAscii(char c) noexcept
@@ -60,28 +53,46 @@ constexpr char toLowerAscii(char c) noexcept
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+/// Compares from the end: the names of an enumeration begin alike rather than end alike.
 constexpr bool equalsIgnoringCase(std::string_view a, std::string_view b) noexcept
 {
     if (a.size() != b.size())
         return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
+    for (auto i = a.size(); i > 0; --i)
     {
-        if (toLowerAscii(a[i]) != toLowerAscii(b[i]))
+        if (a[i - 1] != b[i - 1] && toLowerAscii(a[i - 1]) != toLowerAscii(b[i - 1]))
             return false;
     }
     return true;
 }
 
+/// The text of a value, or nothing when it has none. Each conversion throws its own message then.
+template <class TEnum, std::size_t N>
+const std::string_view* findText(const EnumRows<TEnum, N>& rows, TEnum value) noexcept
+{
+    const auto* row =
+        firstRow(rows, [&](const auto& each) { return each.value == value && each.use != ERowUse::ReadOnly; });
+    return row != nullptr ? &row->text : nullptr;
+}
+
+/// The value of a text compared exactly, or nothing. The last letters are compared first, see equalsIgnoringCase.
+template <class TEnum, std::size_t N>
+const TEnum* findValue(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
+{
+    const auto* row = firstRow(rows, [&](const auto& each) {
+        return each.text.size() == text.size() && each.text.back() == text.back() && each.text == text &&
+               each.use != ERowUse::WriteOnly;
+    });
+    return row != nullptr ? &row->value : nullptr;
+}
+
 /// The value of a text compared in any letter case (ASCII), or nothing.
 template <class TEnum, std::size_t N>
-std::optional<TEnum> findValueIgnoringCase(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
+const TEnum* findValueIgnoringCase(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
 {
-    for (const auto& row : rows)
-    {
-        if (equalsIgnoringCase(row.text, text) && row.use != ERowUse::WriteOnly)
-            return row.value;
-    }
-    return std::nullopt;
+    const auto* row = firstRow(
+        rows, [&](const auto& each) { return equalsIgnoringCase(each.text, text) && each.use != ERowUse::WriteOnly; });
+    return row != nullptr ? &row->value : nullptr;
 }
 
 /// The texts that are written, in the order of the rows.

@@ -30,7 +30,7 @@ void readIfPresent(const xmlpp::CXmlNode& node, const char* name, T& target)
     if (!text)
         return;
     if constexpr (std::is_same_v<T, std::string>)
-        target = *text;
+        target = std::string(*text);
     else if constexpr (IsOptional<T>::value)
         target = util::fromStr<typename T::value_type>(*text);
     else

@@ -24,7 +24,7 @@ const char* keepCountName(bool isShortNames) noexcept
     return isShortNames ? TTraits::ShortKeepCount : TTraits::LongKeepCount;
 }
 
-void logBadBeginTime(const std::string& text, const char* elementName, const datetime::CDateTime& replacement,
+void logBadBeginTime(std::string_view text, const char* elementName, const datetime::CDateTime& replacement,
                      const std::exception& cause)
 {
     if (text == NoBeginTime)
@@ -37,7 +37,7 @@ void logBadBeginTime(const std::string& text, const char* elementName, const dat
     section.warn(util::str_format("At %1", cause.what()));
 }
 
-datetime::CDateTime parseBeginTime(const std::string& text, const char* elementName)
+datetime::CDateTime parseBeginTime(std::string_view text, const char* elementName)
 {
     const datetime::CDateTime replacement(true);
     try
@@ -99,7 +99,7 @@ try
     SGfsPolicyInfoBase rule;
     rule.isEnabled = node.GetBoolAttribute(names::IsEnabled);
     rule.keepCount = util::safe_cast<std::int32_t>(node.GetUint64Attribute(keepCountName<TTraits>(isShortNames)));
-    rule.beginTimeUtc = parseBeginTime(std::string(node.GetAttribute(names::BeginTimeUtc)), elementName);
+    rule.beginTimeUtc = parseBeginTime(node.GetAttribute(names::BeginTimeUtc), elementName);
     rule.desiredTime = static_cast<std::int32_t>(node.GetInt64Attribute(names::DesiredTime));
     return rule;
 }
@@ -141,7 +141,11 @@ std::string SGfsPolicyInfo::toXmlString(bool isShortNames) const
 
 SGfsPolicyInfo SGfsPolicyInfo::fromXml(const xmlpp::CXmlNode& parent, bool isShortNames)
 {
-    const auto policyNode = parent.GetFirstChildNode(names::GfsPolicy);
+    return fromXmlImpl(parent.GetFirstChildNode(names::GfsPolicy), isShortNames);
+}
+
+SGfsPolicyInfo SGfsPolicyInfo::fromXmlImpl(const xmlpp::CXmlNode& policyNode, bool isShortNames)
+{
     SGfsPolicyInfo policy;
     policy.isEnabled = policyNode.GetBoolAttribute(names::IsEnabled);
     readRule(policyNode, isShortNames, policy.weekly);

@@ -102,6 +102,9 @@ struct ZELMODEL_API SGfsPolicyInfo
     /// Reads the child "GfsPolicy" of the parent; "IsEnabled" must be there, a rule that is missing stays empty.
     static SGfsPolicyInfo fromXml(const xmlpp::CXmlNode& parent, bool isShortNames);
 
+    /// Reads a "GfsPolicy" node.
+    static SGfsPolicyInfo fromXmlImpl(const xmlpp::CXmlNode& policyNode, bool isShortNames);
+
     /// True only when all three rules are there on both sides and equal. A policy that lacks a rule is unequal even to
     /// itself, and the policy's own flag is left out: on purpose.
     friend ZELMODEL_API bool operator==(const SGfsPolicyInfo& a, const SGfsPolicyInfo& b) noexcept;

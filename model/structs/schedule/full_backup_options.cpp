@@ -17,6 +17,11 @@ namespace names = detail::schedule_names;
 
 constexpr unsigned long DefaultDayOfMonth = 1;
 
+const char* elementName(EFullBackupType type) noexcept
+{
+    return type == SyntheticFull ? names::SyntheticFullOptions : names::ActiveFullOptions;
+}
+
 } // namespace
 
 CFullBackupOptions::CFullBackupOptions(EFullBackupType type) : m_isEnabled(false), m_type(Constructing)
@@ -80,7 +85,8 @@ catch (std::exception& cause)
 void CFullBackupOptions::SetDefaultMonthly()
 try
 {
-    SetMonthlyOnDay(CDayOfMonth(DefaultDayOfMonth), CMonthMask(true));
+    static const CMonthMask everyMonth(true);
+    SetMonthlyOnDay(CDayOfMonth(DefaultDayOfMonth), everyMonth);
 }
 catch (std::exception& cause)
 {
@@ -160,13 +166,13 @@ std::string CFullBackupOptions::ToLogStr(bool shortNames) const
 
 std::string CFullBackupOptions::GetRootNodeName(EFullBackupType type)
 {
-    return type == SyntheticFull ? names::SyntheticFullOptions : names::ActiveFullOptions;
+    return elementName(type);
 }
 
 void CFullBackupOptions::ToXml(xmlpp::CXmlNode& parent) const
 try
 {
-    auto node = parent.AddNode(GetRootNodeName(m_type));
+    auto node = parent.AddNode(elementName(m_type));
     node.SetUint64Attribute(names::Version, s_version);
     node.SetBoolAttribute(names::IsEnabled, m_isEnabled);
     m_calendar.ToXml(node);
@@ -179,7 +185,7 @@ catch (std::exception& cause)
 CFullBackupOptions CFullBackupOptions::FromXml(const xmlpp::CXmlNode& parent, EFullBackupType type)
 try
 {
-    const auto node = parent.FindChildNode(GetRootNodeName(type));
+    const auto node = parent.FindChildNode(elementName(type));
     if (!node)
         return CFullBackupOptions(type);
     unsigned long version = s_version;

@@ -39,17 +39,17 @@ bool isEveryDayOfWeek(const CScheduleCalendar& calendar)
 } // namespace
 
 CScheduleCalendar::CScheduleCalendar()
-    : m_type(EScheduleType::Monthly),
+    : m_weekDayNumber(EWeekDayNumber::First),
       m_weekMask(onlyDay(EDayOfWeek::Monday)),
       m_monthMask(true),
-      m_weekDayNumber(EWeekDayNumber::First)
+      m_type(EScheduleType::Monthly)
 {
 }
 
 CScheduleCalendar::CScheduleCalendar(EScheduleType::type type, const std::optional<CScheduleTime>& time,
                                      const CWeekMask& weekMask, const CMonthMask& monthMask,
                                      EWeekDayNumber::type weekDayNumber, const CDayOfMonth& dayOfMonth)
-try : m_type(type), m_weekMask(false), m_monthMask(false), m_weekDayNumber(weekDayNumber)
+try : m_weekDayNumber(weekDayNumber), m_weekMask(false), m_monthMask(false), m_type(type)
 {
     switch (type)
     {

@@ -130,19 +130,18 @@ public:
     static CScheduleCalendar FromXml(const xmlpp::CXmlNode& node);
 
 private:
-    struct AsRead;
-    explicit CScheduleCalendar(AsRead&& fields);
+    CScheduleCalendar(const xmlpp::CXmlNode& node, bool& isOldPeriodical);
 
     void SetTimeImpl(const std::optional<CScheduleTime>& time, bool periodical);
     std::string DaysToLogStr(bool shortNames) const;
     std::string MonthsToLogStr(bool shortNames) const;
 
-    EScheduleType::type m_type;
-    std::optional<CScheduleTime> m_time;
-    CWeekMask m_weekMask;
-    CMonthMask m_monthMask;
     EWeekDayNumber::type m_weekDayNumber;
     CDayOfMonth m_dayOfMonth;
+    CWeekMask m_weekMask;
+    CMonthMask m_monthMask;
+    std::optional<CScheduleTime> m_time;
+    EScheduleType::type m_type;
 };
 
 } // namespace zelplatform::model::structs

@@ -16,7 +16,6 @@ using datetime::EDayOfWeek;
 using datetime::EMonth;
 
 constexpr int DaysOfWeek = 7;
-constexpr int MonthsOfYear = 12;
 
 // 29 February on one week day comes after 40 years at the latest; a year more keeps the bound beyond doubt.
 constexpr int YearsToSearchForward = 41;
@@ -83,17 +82,17 @@ DayRange daysToTest(const CScheduleCalendar& calendar, int lastDayOfMonth)
     }
 }
 
-// The latest day of the date's month, up to the date, that is found; nothing when there is none.
-std::optional<CDate> latestInMonth(const CScheduleCalendar& calendar, const CDateTime& date)
+// The day of the date's month, the latest up to the date, that is found; 0 when there is none.
+int latestInMonth(const CScheduleCalendar& calendar, const CDateTime& date, int day, int lastDayOfMonth)
 {
-    const int day = static_cast<int>(date.day());
-    const auto range = daysToTest(calendar, static_cast<int>(date.getMonthLastDay()));
+    const auto range = daysToTest(calendar, lastDayOfMonth);
+    const auto dayOfWeek = date.getDayOfWeek();
     for (int candidate = std::min(range.last, day); candidate >= range.first; --candidate)
     {
-        if (calendar.GetWeekMask().IsDayOn(dayOfWeekAt(date.getDayOfWeek(), day - candidate)))
-            return CDate(CDateTimeHelper::BasicDateAdvance(date, EDateUnit::Day, candidate - day));
+        if (calendar.GetWeekMask().IsDayOn(dayOfWeekAt(dayOfWeek, day - candidate)))
+            return candidate;
     }
-    return std::nullopt;
+    return 0;
 }
 
 CDate previousWeekly(const CScheduleCalendar& calendar, const CDateTime& date)
@@ -107,24 +106,29 @@ CDate previousWeekly(const CScheduleCalendar& calendar, const CDateTime& date)
     return CDate(CDateTimeHelper::BasicDateAdvance(lowerBound, EDateUnit::Day, DaysOfWeek - daysBack));
 }
 
-// Goes back month by month. When no month of the range has a day, the result is the day before the range.
+// Goes back month by month, from the last day of each, down to the same month of the year before. When none of them has
+// a day, the result is the day before the range.
 CDate previousMonthly(const CScheduleCalendar& calendar, const CDateTime& date)
 {
     if (calendar.GetMonthMask().IsAllMonthsOff())
         throw exc::CRuntimeExc("No months are specified.");
-    auto lowerBound = CDateTimeHelper::BasicDateAdvance(date, EDateUnit::Month, -MonthsOfYear);
-    lowerBound.setDay(1);
-    auto current = date;
-    while (lowerBound <= current)
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(year, month, day);
+    auto lowerBound = date;
+    lowerBound.setDate(year - 1, month, 1);
+    int lastDayOfMonth = static_cast<int>(date.getMonthLastDay());
+    for (auto current = date;;)
     {
-        if (calendar.GetMonthMask().IsMonthOn(current.getMonth()))
-        {
-            if (const auto found = latestInMonth(calendar, current))
-                return *found;
-        }
-        current = CDateTimeHelper::BasicDateAdvance(current, EDateUnit::Day, -static_cast<int>(current.day()));
+        const bool isMonthOn = calendar.GetMonthMask().IsMonthOn(static_cast<EMonth::type>(month - 1));
+        const int found = isMonthOn ? latestInMonth(calendar, current, day, lastDayOfMonth) : 0;
+        current = CDateTimeHelper::BasicDateAdvance(current, EDateUnit::Day, found - day);
+        if (found != 0 || current < lowerBound)
+            return CDate(current);
+        current.getDate(year, month, day);
+        lastDayOfMonth = day;
     }
-    return CDate(current);
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include <zelmodel/structs/schedule/schedule_calendar.h>
 
-#include <utility>
-
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
@@ -14,28 +12,13 @@ namespace
 
 namespace names = detail::schedule_names;
 
-} // namespace
-
-/// The fields in the order in which they are read.
-struct CScheduleCalendar::AsRead
+EScheduleType::type readType(const xmlpp::CXmlNode& node, EScheduleType::type oldType)
 {
-    EWeekDayNumber::type weekDayNumber;
-    CDayOfMonth dayOfMonth;
-    CWeekMask weekMask;
-    CMonthMask monthMask;
-    bool isOldPeriodical = false;
-    std::optional<CScheduleTime> time = std::nullopt;
-};
-
-CScheduleCalendar::CScheduleCalendar(AsRead&& fields)
-    : m_type(EScheduleType::Weekly),
-      m_time(fields.time),
-      m_weekMask(std::move(fields.weekMask)),
-      m_monthMask(std::move(fields.monthMask)),
-      m_weekDayNumber(fields.weekDayNumber),
-      m_dayOfMonth(fields.dayOfMonth)
-{
+    const auto type = node.FindAttribute(names::Type);
+    return type ? static_cast<EScheduleType::type>(util::fromStr<int>(*type)) : oldType;
 }
+
+} // namespace
 
 void CScheduleCalendar::ToXml(xmlpp::CXmlNode& node) const
 try
@@ -53,19 +36,23 @@ catch (std::exception& cause)
     exc::RegenTraceExc("ScheduleCalendar: Failed to serialize to Xml.", cause);
 }
 
+// The members stand in the order in which they are read.
+CScheduleCalendar::CScheduleCalendar(const xmlpp::CXmlNode& node, bool& isOldPeriodical)
+    : m_weekDayNumber(EWeekDayNumber::FromStr(std::string(node.GetAttribute(names::WeekDayNumber)))),
+      m_dayOfMonth(CDayOfMonth::FromXml(node)),
+      m_weekMask(CWeekMask::FromXml(node)),
+      m_monthMask(CMonthMask::FromXml(node)),
+      m_time(CScheduleTime::FromXmlSafe(node, isOldPeriodical)),
+      m_type(readType(node, DetermineOldScheduleType(isOldPeriodical)))
+{
+}
+
 // Nothing is checked and no setter is used: a document may hold a calendar that the setters would refuse.
 CScheduleCalendar CScheduleCalendar::FromXml(const xmlpp::CXmlNode& node)
 try
 {
-    AsRead fields{EWeekDayNumber::FromStr(std::string(node.GetAttribute(names::WeekDayNumber))),
-                  CDayOfMonth::FromXml(node), CWeekMask::FromXml(node), CMonthMask::FromXml(node)};
-    fields.time = CScheduleTime::FromXmlSafe(node, fields.isOldPeriodical);
-    const bool isOldPeriodical = fields.isOldPeriodical;
-    CScheduleCalendar calendar(std::move(fields));
-    const auto type = node.FindAttribute(names::Type);
-    calendar.m_type = type ? static_cast<EScheduleType::type>(util::fromStr<int>(*type))
-                           : calendar.DetermineOldScheduleType(isOldPeriodical);
-    return calendar;
+    bool isOldPeriodical = false;
+    return CScheduleCalendar(node, isOldPeriodical);
 }
 catch (std::exception& cause)
 {

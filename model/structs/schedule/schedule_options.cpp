@@ -20,12 +20,6 @@ namespace names = detail::schedule_names;
 
 CScheduleOptions::CScheduleOptions() : m_activeFull(ActiveFull), m_syntheticFull(SyntheticFull) {}
 
-CScheduleOptions::CScheduleOptions(CStartJobScheduleOptions&& jobStart, CFullBackupOptions&& activeFull,
-                                   CFullBackupOptions&& syntheticFull) noexcept
-    : m_jobStart(std::move(jobStart)), m_activeFull(std::move(activeFull)), m_syntheticFull(std::move(syntheticFull))
-{
-}
-
 CScheduleOptions::CScheduleOptions(const CScheduleOptions& other)
     : m_jobStart(other.m_jobStart),
       m_activeFull(other.m_activeFull),
@@ -117,12 +111,18 @@ catch (std::exception& cause)
 }
 
 CScheduleOptions CScheduleOptions::FromXml(const xmlpp::CXmlNode& parent)
+{
+    CScheduleOptions options;
+    options.ReadXml(parent);
+    return options;
+}
+
+void CScheduleOptions::ReadXml(const xmlpp::CXmlNode& parent)
 try
 {
-    auto jobStart = CStartJobScheduleOptions::FromXml(parent);
-    auto activeFull = CFullBackupOptions::FromXml(parent, ActiveFull);
-    auto syntheticFull = CFullBackupOptions::FromXml(parent, SyntheticFull);
-    return CScheduleOptions(std::move(jobStart), std::move(activeFull), std::move(syntheticFull));
+    m_jobStart = CStartJobScheduleOptions::FromXml(parent);
+    m_activeFull = CFullBackupOptions::FromXml(parent, ActiveFull);
+    m_syntheticFull = CFullBackupOptions::FromXml(parent, SyntheticFull);
 }
 catch (std::exception& cause)
 {

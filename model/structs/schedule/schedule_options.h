@@ -62,6 +62,9 @@ public:
     /// Reads what ToXml writes; what is missing keeps its default.
     static CScheduleOptions FromXml(const xmlpp::CXmlNode& parent);
 
+    /// FromXml into this object, whose window stays. A failure leaves the parts that were read before it.
+    void ReadXml(const xmlpp::CXmlNode& parent);
+
     /// A document with the root "ScheduleOptions".
     std::string ToXmlString() const;
     static CScheduleOptions FromXmlString(const std::string& text);
@@ -73,9 +76,6 @@ public:
     static CScheduleOptions Unserialize(io::binary_stream_tt& stream);
 
 private:
-    CScheduleOptions(CStartJobScheduleOptions&& jobStart, CFullBackupOptions&& activeFull,
-                     CFullBackupOptions&& syntheticFull) noexcept;
-
     CStartJobScheduleOptions m_jobStart;
     CFullBackupOptions m_activeFull;
     CFullBackupOptions m_syntheticFull;

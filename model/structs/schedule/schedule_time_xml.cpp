@@ -1,6 +1,7 @@
 #include <zelmodel/structs/schedule/schedule_time.h>
 
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/util.h>
 
 #include "detail/schedule_names.h"
 
@@ -32,10 +33,11 @@ catch (std::exception& cause)
 std::optional<CScheduleTime> CScheduleTime::FromXmlSafe(const xmlpp::CXmlNode& node, bool& isPeriodical)
 try
 {
-    const auto element = node.FindChildNode(names::Time).value_or(node);
+    const auto child = node.FindChildNode(names::Time);
+    const auto& element = child ? *child : node;
     isPeriodical = false;
-    if (element.HasAttribute(names::Type))
-        isPeriodical = element.GetUint64Attribute(names::Type) == PeriodicalType;
+    if (const auto type = element.FindAttribute(names::Type))
+        isPeriodical = util::fromStr<unsigned long>(*type) == PeriodicalType;
     if (!element.HasAttribute(names::Hours) && !element.HasAttribute(names::Minutes))
         return std::nullopt;
     const auto hours = element.GetUint64Attribute(names::Hours);

@@ -87,7 +87,8 @@ catch (std::exception& cause)
 void CStartJobScheduleOptions::SetDefaultWeekly()
 try
 {
-    SetWeekly(DefaultHours, DefaultMinutes, CWeekMask(true));
+    static const CWeekMask everyDay(true);
+    SetWeekly(DefaultHours, DefaultMinutes, everyDay);
 }
 catch (std::exception& cause)
 {

@@ -1,5 +1,6 @@
 #include <zelplatform/datetime/date_time.h>
 
+#include <algorithm>
 #include <ctime>
 #include <iomanip>
 #include <locale>
@@ -15,18 +16,20 @@ namespace datetime
 namespace
 {
 
-bool isDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
-
 // Takes between minDigits and maxDigits decimal digits off the front of the text.
 bool takeNumber(std::string_view& text, std::size_t minDigits, std::size_t maxDigits, int& value) noexcept
 {
+    const auto most = std::min(maxDigits, text.size());
+    int number = 0;
     std::size_t count = 0;
-    value = 0;
-    while (count < maxDigits && count < text.size() && isDigit(text[count]))
-        value = value * 10 + (text[count++] - '0');
+    for (; count < most; ++count)
+    {
+        const auto digit = static_cast<unsigned>(text[count] - '0');
+        if (digit > 9)
+            break;
+        number = number * 10 + static_cast<int>(digit);
+    }
+    value = number;
     text.remove_prefix(count);
     return count >= minDigits;
 }
@@ -102,12 +105,12 @@ bool formatFields(Fields& fields, std::string_view format, std::string& out)
 
 } // namespace
 
-CDateTime CDateTime::fromString(const std::string& text, const std::string& format, bool isUtc)
+CDateTime CDateTime::fromString(std::string_view text, std::string_view format, bool isUtc)
 try
 {
     Fields fields;
     if (!parse(text, format, fields))
-        throw exc::CRuntimeExc("The text does not match the format [%1].", format);
+        throw exc::CRuntimeExc("The text does not match the format [%1].", std::string(format));
     CDateTime result(isUtc);
     result.setDate(fields.year, fields.month, fields.day);
     result.setTime(fields.hour, fields.minute, fields.second);
@@ -115,10 +118,10 @@ try
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("Unable to convert string [%1] to date-time.", text, cause);
+    exc::RegenTraceExc("Unable to convert string [%1] to date-time.", std::string(text), cause);
 }
 
-std::string CDateTime::toStdString(const std::string& format) const
+std::string CDateTime::toStdString(std::string_view format) const
 {
     Fields fields;
     getDate(fields.year, fields.month, fields.day);
@@ -126,6 +129,7 @@ std::string CDateTime::toStdString(const std::string& format) const
     fields.minute = minute();
     fields.second = second();
     std::string text;
+    text.reserve(format.size() + 8);
     if (formatFields(fields, format, text))
         return text;
 
@@ -144,7 +148,7 @@ std::string CDateTime::toStdString(const std::string& format) const
                      1;
     std::ostringstream out;
     out.imbue(std::locale::classic());
-    out << std::put_time(&broken, format.c_str());
+    out << std::put_time(&broken, std::string(format).c_str());
     return out.str();
 }
 

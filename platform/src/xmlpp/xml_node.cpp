@@ -34,6 +34,18 @@ std::string_view viewOf(const char* value) noexcept
     return {value, size < shortSize ? size : size + std::strlen(value + size)};
 }
 
+// For the same reason a value is not compared by strcmp.
+template <std::size_t N>
+bool isValue(const char* value, const char (&text)[N]) noexcept
+{
+    for (std::size_t i = 0; i < N; ++i)
+    {
+        if (value[i] != text[i])
+            return false;
+    }
+    return true;
+}
+
 // The document's user data is the line that was read last, see CXmlDocument::LastReadLine.
 void noteLine(tinyxml2::XMLDocument& document, int line) noexcept
 {
@@ -47,6 +59,30 @@ const tinyxml2::XMLAttribute* findNamed(const tinyxml2::XMLAttribute* from, cons
     while (from != end && !isNamed(from->Name(), name))
         from = from->Next();
     return from != end ? from : nullptr;
+}
+
+// The attribute of the name, looked for behind one of another name and then from the start up to that.
+const tinyxml2::XMLAttribute* searchFrom(const tinyxml2::XMLElement& element, const tinyxml2::XMLAttribute* from,
+                                         CXmlName name) noexcept
+{
+    const auto* found = from != nullptr ? findNamed(from->Next(), nullptr, name) : nullptr;
+    return found != nullptr ? found : findNamed(element.FirstAttribute(), from, name);
+}
+
+// An element's user data is the attribute at which the next look-up starts: attributes that are asked for in document
+// order are found at once, others after one walk around the list.
+inline const tinyxml2::XMLAttribute* lookUp(const tinyxml2::XMLElement& element, CXmlName name) noexcept
+{
+    const auto* at = static_cast<const tinyxml2::XMLAttribute*>(element.GetUserData());
+    if (at == nullptr)
+        at = element.FirstAttribute();
+    return at != nullptr && isNamed(at->Name(), name) ? at : searchFrom(element, at, name);
+}
+
+void checkValue(CXmlName attribute, std::string_view value)
+{
+    if (!detail::isCarriedByXml(value))
+        throw exc::CRuntimeExc("The value of attribute [%1] has a character that XML cannot carry.", attribute.c_str());
 }
 
 tinyxml2::XMLElement* nextNamed(tinyxml2::XMLElement* element, const std::string* name)
@@ -63,11 +99,19 @@ CXmlNode::CXmlNode(std::shared_ptr<tinyxml2::XMLDocument> document, tinyxml2::XM
 {
     if (m_document == nullptr || m_node == nullptr)
         throw exc::CRuntimeExc("An XML node needs a document.");
+    if (m_node != m_document.get() && (m_node->ToElement() == nullptr || m_node->GetDocument() != m_document.get()))
+        throw exc::CRuntimeExc("An XML node is an element of its document.");
+}
+
+// A handle that is not the document's is an element's, see the constructor.
+tinyxml2::XMLElement* CXmlNode::findElement() const noexcept
+{
+    return m_node != m_document.get() ? static_cast<tinyxml2::XMLElement*>(m_node) : nullptr;
 }
 
 tinyxml2::XMLElement& CXmlNode::element() const
 {
-    auto* element = m_node->ToElement();
+    auto* element = findElement();
     if (element == nullptr)
         throw exc::CRuntimeExc("A document has neither attributes nor text.");
     return *element;
@@ -75,7 +119,7 @@ tinyxml2::XMLElement& CXmlNode::element() const
 
 std::string CXmlNode::GetName() const
 {
-    const auto* element = m_node->ToElement();
+    const auto* element = findElement();
     return element != nullptr ? element->Name() : "";
 }
 
@@ -84,29 +128,38 @@ int CXmlNode::GetLine() const
     return m_node->GetLineNum();
 }
 
-std::optional<CXmlNode> CXmlNode::FindChildNode(CXmlName name) const
+// The name is compared first: a comment or text that reads like it is rare, and is told from an element then.
+tinyxml2::XMLNode* CXmlNode::findChild(CXmlName name) const
 {
-    for (auto* child = m_node->FirstChildElement(); child != nullptr; child = child->NextSiblingElement())
-    {
-        if (isNamed(child->Name(), name))
-        {
-            noteLine(*m_document, child->GetLineNum());
-            return CXmlNode(m_document, child);
-        }
-    }
-    noteLine(*m_document, m_node->GetLineNum());
-    return std::nullopt;
+    auto* child = m_node->FirstChild();
+    while (child != nullptr && !(isNamed(child->Value(), name) && child->ToElement() != nullptr))
+        child = child->NextSibling();
+    noteLine(*m_document, (child != nullptr ? child : m_node)->GetLineNum());
+    return child;
+}
+
+CXmlNode CXmlNode::sharing(tinyxml2::XMLNode* node) const
+{
+    CXmlNode other(*this);
+    other.m_node = node;
+    return other;
 }
 
 bool CXmlNode::HasNode(CXmlName name) const
 {
-    return FindChildNode(name).has_value();
+    return findChild(name) != nullptr;
+}
+
+std::optional<CXmlNode> CXmlNode::FindChildNode(CXmlName name) const
+{
+    auto* child = findChild(name);
+    return child != nullptr ? std::optional(sharing(child)) : std::nullopt;
 }
 
 CXmlNode CXmlNode::GetFirstChildNode(CXmlName name) const
 {
-    if (auto child = FindChildNode(name))
-        return *std::move(child);
+    if (auto* child = findChild(name))
+        return sharing(child);
     throw exc::CRuntimeExc("Node [%1] is not found in [%2].", name.c_str(), GetName());
 }
 
@@ -124,27 +177,35 @@ CXmlNode CXmlNode::AddNode(CXmlName name)
 {
     auto* child = m_document->NewElement(name.c_str());
     m_node->InsertEndChild(child);
-    return CXmlNode(m_document, child);
+    return sharing(child);
 }
 
-// An element's user data is the attribute at which the next look-up starts: attributes that are asked for in document
-// order are found at once, others after one walk around the list.
-const tinyxml2::XMLAttribute* CXmlNode::findAttribute(CXmlName name) const
+inline const tinyxml2::XMLAttribute* CXmlNode::findAttribute(CXmlName name) const
 {
-    auto* element = m_node->ToElement();
+    auto* element = findElement();
     if (element == nullptr)
         return nullptr;
-    const auto* first = element->FirstAttribute();
-    const auto* start = static_cast<const tinyxml2::XMLAttribute*>(element->GetUserData());
-    if (start == nullptr)
-        start = first;
-    const auto* found = findNamed(start, nullptr, name);
-    if (found == nullptr)
-        found = findNamed(first, start, name);
-    noteLine(*m_document, found != nullptr ? found->GetLineNum() : element->GetLineNum());
-    if (found != nullptr)
-        element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(found));
-    return found;
+    const auto* attribute = lookUp(*element, name);
+    noteLine(*m_document, attribute != nullptr ? attribute->GetLineNum() : element->GetLineNum());
+    if (attribute != nullptr)
+        element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute));
+    return attribute;
+}
+
+inline const char* CXmlNode::takeAttribute(CXmlName name) const
+{
+    const auto* attribute = findAttribute(name);
+    if (attribute == nullptr)
+        return nullptr;
+    m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
+    return attribute->Value();
+}
+
+inline const char* CXmlNode::takeRequired(CXmlName name) const
+{
+    if (const auto* value = takeAttribute(name))
+        return value;
+    throw exc::CRuntimeExc("Attribute [%1] is not found in [%2].", name.c_str(), GetName());
 }
 
 bool CXmlNode::HasAttribute(CXmlName name) const
@@ -154,25 +215,24 @@ bool CXmlNode::HasAttribute(CXmlName name) const
 
 std::optional<std::string_view> CXmlNode::FindAttribute(CXmlName name) const
 {
-    const auto* attribute = findAttribute(name);
-    if (attribute == nullptr)
-        return std::nullopt;
-    m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
-    return viewOf(attribute->Value());
+    const auto* value = takeAttribute(name);
+    return value != nullptr ? std::optional(viewOf(value)) : std::nullopt;
 }
 
 std::string_view CXmlNode::GetAttribute(CXmlName name) const
 {
-    const auto* attribute = findAttribute(name);
-    if (attribute == nullptr)
-        throw exc::CRuntimeExc("Attribute [%1] is not found in [%2].", name.c_str(), GetName());
-    m_node->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute->Next()));
-    return viewOf(attribute->Value());
+    return viewOf(takeRequired(name));
 }
 
+// The two spellings that are written come first.
 bool CXmlNode::GetBoolAttribute(CXmlName name) const
 {
-    return util::fromStr<bool>(GetAttribute(name));
+    const auto* value = takeRequired(name);
+    if (isValue(value, "true"))
+        return true;
+    if (isValue(value, "false"))
+        return false;
+    return util::fromStr<bool>(viewOf(value));
 }
 
 unsigned long CXmlNode::GetUint64Attribute(CXmlName name) const
@@ -195,9 +255,9 @@ guid::guid_t CXmlNode::GetGuidAttribute(CXmlName name) const
     return guid::guid_t::FromAStr(std::string(GetAttribute(name)));
 }
 
-datetime::CDateTime CXmlNode::GetDateTimeAttribute(CXmlName name, const std::string& format, bool isUtc) const
+datetime::CDateTime CXmlNode::GetDateTimeAttribute(CXmlName name, std::string_view format, bool isUtc) const
 {
-    return datetime::CDateTime::fromString(std::string(GetAttribute(name)), format, isUtc);
+    return datetime::CDateTime::fromString(GetAttribute(name), format, isUtc);
 }
 
 std::string CXmlNode::GetInnerText() const
@@ -218,14 +278,14 @@ void CXmlNode::setAttributeText(CXmlName name, const char* value)
 
 void CXmlNode::SetAttribute(CXmlName name, const std::string& value)
 {
-    if (!detail::isCarriedByXml(value))
-        throw exc::CRuntimeExc("The value of attribute [%1] has a character that XML cannot carry.", name.c_str());
+    checkValue(name, value);
     setAttributeText(name, value.c_str());
 }
 
 void CXmlNode::SetAttribute(CXmlName name, const char* value)
 {
-    SetAttribute(name, std::string(value));
+    checkValue(name, value);
+    setAttributeText(name, value);
 }
 
 void CXmlNode::SetBoolAttribute(CXmlName name, bool value)
@@ -252,7 +312,7 @@ void CXmlNode::SetGuidAttribute(CXmlName name, const guid::guid_t& value)
     setAttributeText(name, value.ToAStr().c_str());
 }
 
-void CXmlNode::SetDateTimeAttribute(CXmlName name, const datetime::CDateTime& value, const std::string& format)
+void CXmlNode::SetDateTimeAttribute(CXmlName name, const datetime::CDateTime& value, std::string_view format)
 {
     SetAttribute(name, value.toStdString(format));
 }

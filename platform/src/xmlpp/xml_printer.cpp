@@ -1,5 +1,6 @@
 #include "xml_printer.h"
 
+#include <array>
 #include <string_view>
 
 #include <tinyxml2.h>
@@ -9,7 +10,7 @@ namespace xmlpp::detail
 namespace
 {
 
-std::string_view referenceFor(char c, bool inAttribute) noexcept
+constexpr std::string_view referenceFor(char c, bool inAttribute) noexcept
 {
     switch (c)
     {
@@ -25,64 +26,116 @@ std::string_view referenceFor(char c, bool inAttribute) noexcept
     }
 }
 
-void printEscaped(std::string_view text, bool inAttribute, std::string& out)
+/// For each byte whether it ends a stretch that is copied as it stands: the terminator and what needs a reference.
+using Stops = std::array<bool, 256>;
+
+constexpr Stops stopsOf(bool inAttribute) noexcept
 {
-    std::size_t plainFrom = 0;
-    for (std::size_t i = 0; i < text.size(); ++i)
-    {
-        const auto reference = text[i] > '>' ? std::string_view() : referenceFor(text[i], inAttribute);
-        if (reference.empty())
-            continue;
-        out.append(text, plainFrom, i - plainFrom);
-        out.append(reference);
-        plainFrom = i + 1;
-    }
-    out.append(text, plainFrom, text.size() - plainFrom);
+    Stops stops{};
+    stops[0] = true;
+    for (int c = 1; c < 128; ++c)
+        stops[static_cast<std::size_t>(c)] = !referenceFor(static_cast<char>(c), inAttribute).empty();
+    return stops;
 }
 
-void printElementStart(const tinyxml2::XMLElement& element, std::string& out)
+constexpr Stops AttributeStops = stopsOf(true);
+constexpr Stops TextStops = stopsOf(false);
+
+/// Collects the many small pieces of a document, so that most documents are appended at once. The loops keep the write
+/// position in a local: a store through it could be one to the member, which would be loaded again for each byte.
+class Output
 {
-    out.push_back('<');
-    out.append(element.Value());
+public:
+    explicit Output(std::string& text) noexcept : m_text(text) {}
+
+    void put(const char* piece)
+    {
+        auto* at = m_at;
+        for (; *piece != '\0'; ++piece)
+            at = put(*piece, at);
+        m_at = at;
+    }
+
+    void putEscaped(const char* piece, bool inAttribute)
+    {
+        const auto& stops = inAttribute ? AttributeStops : TextStops;
+        while (true)
+        {
+            auto* at = m_at;
+            for (; !stops[static_cast<unsigned char>(*piece)]; ++piece)
+                at = put(*piece, at);
+            m_at = at;
+            if (*piece == '\0')
+                return;
+            put(referenceFor(*piece++, inAttribute).data());
+        }
+    }
+
+    void flush()
+    {
+        m_text.append(m_bytes.data(), static_cast<std::size_t>(m_at - m_bytes.data()));
+        m_at = m_bytes.data();
+    }
+
+private:
+    char* put(char c, char* at)
+    {
+        if (at == m_bytes.data() + m_bytes.size())
+        {
+            m_at = at;
+            flush();
+            at = m_at;
+        }
+        *at = c;
+        return at + 1;
+    }
+
+    std::string& m_text;
+    std::array<char, 4096> m_bytes;
+    char* m_at = m_bytes.data();
+};
+
+void printElementStart(const tinyxml2::XMLElement& element, Output& out)
+{
+    out.put("<");
+    out.put(element.Value());
     for (const auto* attribute = element.FirstAttribute(); attribute != nullptr; attribute = attribute->Next())
     {
-        out.push_back(' ');
-        out.append(attribute->Name());
-        out.append("=\"");
-        printEscaped(attribute->Value(), true, out);
-        out.push_back('"');
+        out.put(" ");
+        out.put(attribute->Name());
+        out.put("=\"");
+        out.putEscaped(attribute->Value(), true);
+        out.put("\"");
     }
-    out.append(element.NoChildren() ? "/>" : ">");
+    out.put(element.NoChildren() ? "/>" : ">");
 }
 
-void printElementEnd(const tinyxml2::XMLElement& element, std::string& out)
+void printWrapped(const char* opening, const char* content, const char* closing, Output& out)
 {
-    out.append("</");
-    out.append(element.Value());
-    out.push_back('>');
+    out.put(opening);
+    out.put(content);
+    out.put(closing);
 }
 
-void printStart(const tinyxml2::XMLNode& node, std::string& out)
+void printStart(const tinyxml2::XMLNode& node, Output& out)
 {
     if (const auto* element = node.ToElement())
         printElementStart(*element, out);
     else if (const auto* text = node.ToText())
     {
         if (text->CData())
-            out.append("<![CDATA[").append(text->Value()).append("]]>");
+            printWrapped("<![CDATA[", text->Value(), "]]>", out);
         else
-            printEscaped(text->Value(), false, out);
+            out.putEscaped(text->Value(), false);
     }
     else if (node.ToComment() != nullptr)
-        out.append("<!--").append(node.Value()).append("-->");
+        printWrapped("<!--", node.Value(), "-->", out);
     else if (node.ToUnknown() != nullptr)
-        out.append("<!").append(node.Value()).append(">");
+        printWrapped("<!", node.Value(), ">", out);
 }
 
-} // namespace
-
 // Walks along the nodes' own links, so that the depth of a document costs no stack.
-void printXml(const tinyxml2::XMLNode& root, std::string& out)
+void print(const tinyxml2::XMLNode& root, Output& out)
 {
     const tinyxml2::XMLNode* node = &root;
     while (true)
@@ -97,12 +150,21 @@ void printXml(const tinyxml2::XMLNode& root, std::string& out)
         {
             node = node->Parent();
             if (const auto* element = node->ToElement())
-                printElementEnd(*element, out);
+                printWrapped("</", element->Value(), ">", out);
         }
         if (node == &root)
             return;
         node = node->NextSibling();
     }
+}
+
+} // namespace
+
+void printXml(const tinyxml2::XMLNode& root, std::string& text)
+{
+    Output out(text);
+    print(root, out);
+    out.flush();
 }
 
 } // namespace xmlpp::detail

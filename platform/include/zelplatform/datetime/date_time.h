@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -39,7 +40,7 @@ public:
     /// Reads a date written in the format: %Y (four digits), %m %d %H %M %S (one or two digits), anything else to the
     /// letter. The whole text must match and the date must exist; fields that the format lacks stay at 1970-01-01
     /// 00:00:00. Throws exc::CRuntimeExc.
-    static CDateTime fromString(const std::string& text, const std::string& format, bool isUtc = true);
+    static CDateTime fromString(std::string_view text, std::string_view format, bool isUtc = true);
 
     /// Now, as a UTC reading.
     static CDateTime currentUtcTime();
@@ -93,7 +94,7 @@ public:
     unsigned long getMonthCurrWeekIndex() const;
 
     /// Formats the wall clock as strftime does in the "C" locale; the year always has four digits.
-    std::string toStdString(const std::string& format) const;
+    std::string toStdString(std::string_view format) const;
 
     friend bool operator==(const CDateTime& a, const CDateTime& b) noexcept { return a.m_seconds == b.m_seconds; }
     friend bool operator!=(const CDateTime& a, const CDateTime& b) noexcept { return a.m_seconds != b.m_seconds; }

@@ -90,7 +90,7 @@ public:
 
     guid::guid_t GetGuidAttribute(CXmlName name) const;
 
-    datetime::CDateTime GetDateTimeAttribute(CXmlName name, const std::string& format, bool isUtc) const;
+    datetime::CDateTime GetDateTimeAttribute(CXmlName name, std::string_view format, bool isUtc) const;
 
     /// All direct text and CDATA of the element, joined and trimmed.
     std::string GetInnerText() const;
@@ -103,7 +103,7 @@ public:
     void SetUint64Attribute(CXmlName name, unsigned long value);
     void SetInt64Attribute(CXmlName name, long value);
     void SetGuidAttribute(CXmlName name, const guid::guid_t& value);
-    void SetDateTimeAttribute(CXmlName name, const datetime::CDateTime& value, const std::string& format);
+    void SetDateTimeAttribute(CXmlName name, const datetime::CDateTime& value, std::string_view format);
 
     /// Replaces the element's text.
     void SetInnerText(const std::string& value);
@@ -122,8 +122,13 @@ private:
     friend class CXmlNodeRange;
     friend class CXmlDocument;
 
+    tinyxml2::XMLElement* findElement() const noexcept;
     tinyxml2::XMLElement& element() const;
     const tinyxml2::XMLAttribute* findAttribute(CXmlName name) const;
+    const char* takeAttribute(CXmlName name) const;
+    const char* takeRequired(CXmlName name) const;
+    tinyxml2::XMLNode* findChild(CXmlName name) const;
+    CXmlNode sharing(tinyxml2::XMLNode* node) const;
     void setAttributeText(CXmlName name, const char* value);
 
     std::shared_ptr<tinyxml2::XMLDocument> m_document;
