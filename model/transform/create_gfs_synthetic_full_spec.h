@@ -29,8 +29,7 @@ public:
     static std::shared_ptr<CCreateGfsSyntheticFullSpec> FromString(const std::string& text);
 
     /// Reads the element itself; its name is not looked at. Throws "Unable to parse xml create gfs synthetic
-    /// specification.
-    /// ...".
+    /// specification. ...".
     static std::shared_ptr<CCreateGfsSyntheticFullSpec> FromXmlNode(const xmlpp::CXmlNode& node);
 
 private:

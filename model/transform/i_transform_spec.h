@@ -30,7 +30,7 @@ public:
     /// The document as text.
     virtual std::string ToString() const = 0;
 
-    /// Reads the element as the specification of the type: 0 deletes points, 1 creates a synthetic full. Any other
+    /// Reads the element as the work that the type names: 0 deletes points, 1 creates a synthetic full. Any other
     /// type, the GFS synthetic full's too, throws "Not implemented.".
     static std::shared_ptr<ITransformSpec> UnserializeSpec(const xmlpp::CXmlNode& node,
                                                            ETransformOperationType::type type);

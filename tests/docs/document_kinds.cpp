@@ -9,6 +9,8 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/xmlpp/xmlpp.h>
 
+#include "record_kinds.h"
+
 namespace zelmodel_test
 {
 namespace
@@ -59,11 +61,9 @@ std::string tellOldSchedule(const std::string& text)
            types.at(static_cast<std::size_t>(start.GetScheduleType())) + ": " + start.ToLogStr(false) + '\n';
 }
 
-} // namespace
-
-const std::vector<DocumentKind>& allKinds()
+std::vector<DocumentKind> jobKinds()
 {
-    static const std::vector<DocumentKind> kinds{
+    return {
         {"xml JobOptions", true, rewriteJob},
         {"xml JobOptionsRoot", false, rewriteJob},
         {"xml ScheduleOptions", true, rewriteSchedule},
@@ -73,6 +73,18 @@ const std::vector<DocumentKind>& allKinds()
         {"xml GfsPolicy long", true, rewritePolicy<false>},
         {"xml Indexing", true, rewriteIndexing},
     };
+}
+
+} // namespace
+
+const std::vector<DocumentKind>& allKinds()
+{
+    static const std::vector<DocumentKind> kinds = [] {
+        std::vector<DocumentKind> all = jobKinds();
+        const auto others = recordKinds();
+        all.insert(all.end(), others.begin(), others.end());
+        return all;
+    }();
     return kinds;
 }
 

@@ -10,6 +10,7 @@
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xmlpp.h>
 
+#include "bytes_of.h"
 #include "document_kinds.h"
 #include "markdown.h"
 #include "xml_edit.h"
@@ -21,17 +22,6 @@ namespace
 {
 
 constexpr const char* Page = "docs/formats.md";
-
-const Part& partOf(const std::vector<Part>& parts, EPart kind, const std::string& start)
-{
-    for (const auto& part : parts)
-    {
-        const auto& begin = kind == EPart::Table && !part.rows.empty() ? part.rows.front().at(1) : part.info;
-        if (part.kind == kind && begin == start)
-            return part;
-    }
-    throw std::runtime_error("The page has no part " + start);
-}
 
 template <class T>
 bool isRead(const std::string& text)
@@ -45,29 +35,6 @@ bool isRead(const std::string& text)
     {
         return false;
     }
-}
-
-/// The bytes that a block of lines "24 00 ; words" gives.
-std::string bytesIn(const Part& block)
-{
-    std::string bytes;
-    std::istringstream lines(block.text);
-    for (std::string line; std::getline(lines, line);)
-    {
-        std::istringstream numbers(line.substr(0, line.find(';')));
-        for (unsigned value = 0; numbers >> std::hex >> value;)
-            bytes.push_back(static_cast<char>(value));
-    }
-    return bytes;
-}
-
-template <class T>
-std::string bytesOf(const T& write)
-{
-    io::mem_stream_tt device;
-    io::binary_stream_tt stream(device);
-    write(stream);
-    return {device.buffer().begin(), device.buffer().end()};
 }
 
 } // namespace

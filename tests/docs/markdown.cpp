@@ -116,6 +116,30 @@ std::vector<Part> partsOf(const std::string& path)
     return Pages(path).read();
 }
 
+const Part& partOf(const std::vector<Part>& parts, EPart kind, const std::string& start)
+{
+    for (const auto& part : parts)
+    {
+        const auto& begin = kind == EPart::Table && !part.rows.empty() ? part.rows.front().at(1) : part.info;
+        if (part.kind == kind && begin == start)
+            return part;
+    }
+    throw std::runtime_error("The page has no part " + start);
+}
+
+std::string bytesIn(const Part& block)
+{
+    std::string bytes;
+    std::istringstream lines(block.text);
+    for (std::string line; std::getline(lines, line);)
+    {
+        std::istringstream numbers(line.substr(0, line.find(';')));
+        for (unsigned value = 0; numbers >> std::hex >> value;)
+            bytes.push_back(static_cast<char>(value));
+    }
+    return bytes;
+}
+
 std::vector<std::string> codesOf(const std::string& text)
 {
     std::vector<std::string> codes;

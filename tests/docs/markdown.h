@@ -37,6 +37,13 @@ std::string projectFile(const std::string& path);
 /// The parts of a page; headings and lists are paragraphs.
 std::vector<Part> partsOf(const std::string& path);
 
+/// The first block with that text after its fence, or the first table with that title over its second column; throws
+/// when there is none.
+const Part& partOf(const std::vector<Part>& parts, EPart kind, const std::string& start);
+
+/// The bytes that the lines "24 00 ; words" of a block give.
+std::string bytesIn(const Part& block);
+
 /// The texts between backticks.
 std::vector<std::string> codesOf(const std::string& text);
 

@@ -113,7 +113,7 @@ TEST(Readme, TheCommandAnswersAsShown)
                                                 << joined(call.shown, '\n') << "answered:\n"
                                                 << joined(lines, '\n');
     }
-    EXPECT_EQ(calls.size(), 6U);
+    EXPECT_EQ(calls.size(), 7U);
 }
 
 TEST(Readme, ShowsTheFirstProgram)

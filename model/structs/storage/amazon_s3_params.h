@@ -51,8 +51,7 @@ struct ZELMODEL_API SAmazonS3Endpoint
     void Clear();
 
     /// Adds the child to the parent; an empty fingerprint is left out. Throws "Failed to convert SAmazonS3Endpoint to
-    /// xml.
-    /// ...".
+    /// xml. ...".
     void ToXmlNode(xmlpp::CXmlNode& parent) const;
 
     /// Reads the child. A "ServerCertificate" (PEM) is kept as its fingerprint only; a "Fingerprint" beside it wins.
