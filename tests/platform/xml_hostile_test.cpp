@@ -27,7 +27,7 @@ void expectQuick(F&& action)
 {
     const auto start = std::chrono::steady_clock::now();
     action();
-    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 1.0);
+    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 15.0);
 }
 
 std::string attributes(int count, const std::string& value = {})

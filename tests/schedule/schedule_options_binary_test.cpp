@@ -156,7 +156,7 @@ TEST(CScheduleOptionsFailures, LyingLengthsAreNotBelieved)
         CSizedTextDevice sized(bytes);
         EXPECT_EQ(shortRead(10, length), failureText([&] { read(sized); }));
         EXPECT_LE(sized.largestRead(), 65536UL);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
     }
 }
 

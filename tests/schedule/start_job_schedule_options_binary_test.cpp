@@ -139,7 +139,7 @@ TEST(CStartJobScheduleOptionsFailures, LyingLengthsAreNotBelieved)
         CTextDevice unsized(bytes);
         EXPECT_EQ(shortRead(10, length), failureText([&] { read(unsized); }));
         EXPECT_LE(unsized.largestRead(), 65536UL);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
     }
 }
 
