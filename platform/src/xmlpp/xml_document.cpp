@@ -40,20 +40,31 @@ void checkTopLevel(const tinyxml2::XMLDocument& document)
         refuse("no element", 1);
 }
 
-// The elements with an end tag of their own.
+// The deepest level of an element with an end tag. The parser has a limit of its own, which differs between its
+// versions.
+constexpr int MaxDepth = 98;
+
+// The elements with an end tag of their own; refuses one that lies too deep.
 std::size_t countOpenElements(const tinyxml2::XMLDocument& document)
 {
     std::size_t count = 0;
+    int depth = 0;
     const tinyxml2::XMLNode* node = &document;
     while (node != nullptr)
     {
         const auto* element = node->ToElement();
         if (element != nullptr && element->ClosingType() == tinyxml2::XMLElement::OPEN)
+        {
             ++count;
+            if (depth > MaxDepth)
+                refuse("too deep", element->GetLineNum());
+        }
         const auto* next = node->FirstChild();
+        depth += next != nullptr ? 1 : 0;
         while (next == nullptr && node != nullptr)
         {
             next = node->NextSibling();
+            depth -= next == nullptr ? 1 : 0;
             node = node->Parent();
         }
         node = next;
