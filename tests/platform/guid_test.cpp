@@ -1,5 +1,6 @@
 #include <zelplatform/guid/guid.h>
 
+#include <cctype>
 #include <set>
 #include <string>
 
@@ -122,6 +123,34 @@ TEST(GuidTest, CreatesFreshRandomIdentifiers)
         EXPECT_EQ(guid_t::FromAStr(text), id);
     }
     EXPECT_EQ(ids.size(), 1000U);
+}
+
+// What an identifier's character may be, told without the reader's arithmetic.
+bool isInPlace(std::size_t place, char c)
+{
+    const bool isHyphenPlace = std::string(SomeText)[place] == '-';
+    return isHyphenPlace ? c == '-' : std::string("0123456789abcdefABCDEF").find(c) != std::string::npos;
+}
+
+TEST(GuidTest, EveryByteInEveryPlace)
+{
+    for (std::size_t place = 0; place < std::string(SomeText).size(); ++place)
+    {
+        for (int byte = 0; byte < 256; ++byte)
+        {
+            SCOPED_TRACE(std::to_string(byte) + " at " + std::to_string(place));
+            std::string text = SomeText;
+            text[place] = static_cast<char>(byte);
+            if (!isInPlace(place, text[place]))
+            {
+                EXPECT_THROW(guid_t::FromAStr(text), exc::CRuntimeExc);
+                continue;
+            }
+            std::string lower = text;
+            lower[place] = static_cast<char>(std::tolower(byte));
+            EXPECT_EQ(guid_t::FromAStr(text).ToAStr(), lower);
+        }
+    }
 }
 
 } // namespace

@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cctype>
+#include <stdexcept>
+
 #include "session_log_lines.h"
 
 namespace
@@ -7,6 +11,14 @@ using Writer = zelplatform::model::ISessionLogWriter;
 using zelmodel_test::lineId;
 using zelmodel_test::lineStart;
 using zelmodel_test::parseLine;
+
+// A blank divides the time for the line's reader, and ends the seconds for the time's.
+void readTimeOrRefuseBlank(const std::string& text)
+{
+    if (std::count(text.begin(), text.end(), ' ') != 2)
+        throw std::invalid_argument("tokens");
+    zelplatform::model::CSessionLogLineParser::LogTimeStrToTime(text);
+}
 
 class SessionLogLineParserTest : public zelmodel_test::SessionLogLines
 {
@@ -214,6 +226,33 @@ TEST_F(SessionLogLineParserTest, TimesOfDayThatDoNotExist)
         EXPECT_EQ(logging::ELevel::Error, logged[0].level);
         EXPECT_EQ(0U, logged[0].text.rfind("Unable to convert time string to DateTime. ", 0));
         expectEntry(logged[1], logging::ELevel::Info, "Line [" + line + "] is skipped.");
+    }
+}
+
+// Lines that start as the writer's do are read by another way than all others; nobody must be able to tell.
+TEST_F(SessionLogLineParserTest, EveryByteInEveryPlaceOfTheTime)
+{
+    using zelplatform::model::CSessionLogLineParser;
+    const std::string time = "2024-03-07 13:05:09 UTC";
+    for (std::size_t place = 0; place < time.size(); ++place)
+    {
+        for (int byte = 0; byte < 256; ++byte)
+        {
+            SCOPED_TRACE(std::to_string(byte) + " at " + std::to_string(place));
+            std::string changed = time;
+            changed[place] = static_cast<char>(byte);
+            const auto parsed = parseLine(changed + " " + lineId + " info text");
+            takeEntries();
+            const bool isInZone = place > time.rfind(' ');
+            const bool isSeparator = place < time.rfind(' ') && std::isdigit(time[place]) == 0;
+            const bool isWhole = changed == time;
+            if (isInZone || isSeparator || time[place] == ' ')
+                EXPECT_EQ(isWhole, parsed.isRecord);
+            else if (parsed.isRecord)
+                EXPECT_EQ(CSessionLogLineParser::LogTimeStrToTime(changed).getUtcTime(), parsed.time.getUtcTime());
+            else
+                EXPECT_ANY_THROW(readTimeOrRefuseBlank(changed));
+        }
     }
 }
 

@@ -17,14 +17,15 @@ using boost::gregorian::date;
 using boost::gregorian::gregorian_calendar;
 
 constexpr long SecondsOfDay = 86400;
-constexpr long FirstSecond = -17987443200; // 1400-01-01 00:00:00
+constexpr long FirstSecond = -17987443200; // 1400-01-01 00:00:00, a whole number of days
 constexpr long LastSecond = 253402300799;  // 9999-12-31 23:59:59
 constexpr long EpochDayNumber = 2440588;   // 1970-01-01 as the calendar counts days
 
+// Seconds are counted from the first day on, which makes them positive: one division without a sign.
 long daysOf(long seconds) noexcept
 {
-    const long days = seconds / SecondsOfDay;
-    return seconds % SecondsOfDay < 0 ? days - 1 : days;
+    const auto sinceFirst = static_cast<unsigned long>(seconds - FirstSecond);
+    return static_cast<long>(sinceFirst / SecondsOfDay) + FirstSecond / SecondsOfDay;
 }
 
 long timeOfDay(long seconds) noexcept

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid.hpp>
 
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/byte_words.h>
 #include <zelplatform/util/numbers.h>
 
 namespace guid
@@ -16,59 +18,57 @@ namespace guid
 namespace
 {
 
+using util::eachByte;
+using util::fourBytesAt;
+
 constexpr std::size_t TextSize = 36;
 constexpr std::size_t BracedTextSize = TextSize + 2;
-
-constexpr int digitValue(char c) noexcept
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
-}
-
-constexpr unsigned NoDigit = 0x100;
-
-// The value of each character as a hexadecimal digit, shifted into its place; NoDigit for all others.
-constexpr std::array<std::uint16_t, 256> makeDigits(unsigned shift) noexcept
-{
-    std::array<std::uint16_t, 256> digits{};
-    for (std::size_t i = 0; i < digits.size(); ++i)
-    {
-        const int value = digitValue(static_cast<char>(i));
-        digits[i] = static_cast<std::uint16_t>(value < 0 ? NoDigit : static_cast<unsigned>(value) << shift);
-    }
-    return digits;
-}
-
-constexpr std::array<std::uint16_t, 256> HighDigits = makeDigits(4);
-constexpr std::array<std::uint16_t, 256> LowDigits = makeDigits(0);
 
 // Where the digit pairs of the sixteen bytes stand, and the hyphens between them.
 constexpr std::array<std::size_t, 16> Pairs{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
 constexpr std::array<std::size_t, 4> Hyphens{8, 13, 18, 23};
 
-// By table: logs and transforms are full of identifiers, and the library's generator takes several times as long.
+// The four bytes of twice four hexadecimal digits, the first in the lowest byte; wrong becomes other than 0 when one is
+// no digit.
+std::uint64_t fourBytes(std::uint64_t left, std::uint64_t right, std::uint64_t& wrong) noexcept
+{
+    const auto text = left | right << 32U;
+    const auto letters = text >> 6U & eachByte(1);
+    const auto digits = (text & eachByte(0x0F)) + letters * 9;
+    const auto aboveNine = (digits + eachByte(0x80 - 10)) >> 7U & eachByte(1);
+    // What is no digit reads otherwise when the value is written as a digit in lower case again.
+    const auto again = digits + eachByte('0') + aboveNine * ('a' - '0' - 10);
+    wrong |= (again ^ (text | letters << 5U)) | (digits & eachByte(0xF0));
+    auto bytes = (digits << 4U | digits >> 8U) & 0x00FF00FF00FF00FFU;
+    bytes = (bytes | bytes >> 8U) & 0x0000FFFF0000FFFFU;
+    return (bytes | bytes >> 16U) & 0xFFFFFFFFU;
+}
+
+void store(std::uint64_t eightBytes, std::uint8_t* bytes) noexcept
+{
+    for (unsigned i = 0; i < 8; ++i)
+        bytes[i] = static_cast<std::uint8_t>(eightBytes >> i * 8U);
+}
+
+// Eight digits at a time: logs and transforms are full of identifiers, and the library's reader takes several times as
+// long.
 bool parse(std::string_view text, std::array<std::uint8_t, 16>& bytes) noexcept
 {
     if (text.size() == BracedTextSize && text.front() == '{' && text.back() == '}')
         text = text.substr(1, TextSize);
     if (text.size() != TextSize)
         return false;
-    unsigned wrong = 0;
-    for (const auto at : Hyphens)
-        wrong |= text[at] == '-' ? 0U : NoDigit;
-    for (std::size_t i = 0; i < Pairs.size(); ++i)
-    {
-        const unsigned high = HighDigits[static_cast<unsigned char>(text[Pairs[i]])];
-        const unsigned low = LowDigits[static_cast<unsigned char>(text[Pairs[i] + 1])];
-        wrong |= high | low;
-        bytes[i] = static_cast<std::uint8_t>(high | low);
-    }
-    return (wrong & NoDigit) == 0;
+    const char* at = text.data();
+    std::uint64_t wrong = 0;
+    for (const auto hyphen : Hyphens)
+        wrong |= static_cast<std::uint64_t>(at[hyphen] != '-');
+    const auto first = fourBytes(fourBytesAt(at), fourBytesAt(at + 4), wrong);
+    const auto second = fourBytes(fourBytesAt(at + 9), fourBytesAt(at + 14), wrong);
+    const auto third = fourBytes(fourBytesAt(at + 19), fourBytesAt(at + 24), wrong);
+    const auto fourth = fourBytes(fourBytesAt(at + 28), fourBytesAt(at + 32), wrong);
+    store(first | second << 32U, bytes.data());
+    store(third | fourth << 32U, bytes.data() + 8);
+    return wrong == 0;
 }
 
 } // namespace

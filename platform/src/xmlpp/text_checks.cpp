@@ -1,12 +1,13 @@
 #include "text_checks.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 
 #include <boost/algorithm/string/predicate.hpp>
 
+#include <zelplatform/util/byte_words.h>
 #include <zelplatform/xmlpp/xml_document.h>
 
 namespace xmlpp::detail
@@ -42,14 +43,12 @@ std::size_t findControlByte(std::string_view bytes) noexcept
 // Eight bytes at a time; only a word with a byte below the blank is looked at byte by byte.
 std::size_t findControl(std::string_view text) noexcept
 {
-    constexpr std::uint64_t ones = 0x0101010101010101U;
     constexpr std::size_t wordSize = sizeof(std::uint64_t);
     std::size_t at = 0;
     for (; at + wordSize <= text.size(); at += wordSize)
     {
-        std::uint64_t word = 0;
-        std::memcpy(&word, text.data() + at, wordSize);
-        const bool mayHaveControl = ((word - ones * 0x20U) & ~word & (ones * 0x80U)) != 0;
+        const auto word = util::eightBytesAt(text.data() + at);
+        const bool mayHaveControl = ((word - util::eachByte(0x20)) & ~word & util::eachByte(0x80)) != 0;
         const auto inWord = mayHaveControl ? findControlByte(text.substr(at, wordSize)) : wordSize;
         if (inWord < wordSize)
             return at + inWord;
@@ -93,19 +92,35 @@ std::size_t endOf(std::string_view text, std::string_view closing, std::size_t f
     return at == std::string_view::npos ? text.size() : at + closing.size();
 }
 
-// The end of a tag, past its quoted values, which may hold anything; counts them.
-std::size_t endOfTag(std::string_view text, std::size_t at, unsigned& values) noexcept
+std::size_t endOf(std::string_view text, char closing, std::size_t from) noexcept
 {
-    values = 0;
-    while (at < text.size() && text[at] != '>')
+    const auto at = text.find(closing, from);
+    return at == std::string_view::npos ? text.size() : at + 1;
+}
+
+// What a tag is looked through for: its end and the quotes of its values.
+constexpr std::array<bool, 256> makeTagMarks() noexcept
+{
+    std::array<bool, 256> marks{};
+    for (const char mark : {'>', '"', '\''})
+        marks[static_cast<unsigned char>(mark)] = true;
+    return marks;
+}
+
+constexpr std::array<bool, 256> TagMarks = makeTagMarks();
+
+// The end of a tag, past its quoted values, which may hold anything; counts them.
+inline std::size_t endOfTag(std::string_view text, std::size_t at, unsigned& values) noexcept
+{
+    while (at < text.size())
     {
-        if (text[at] == '"' || text[at] == '\'')
-        {
-            ++values;
-            at = endOf(text, text.substr(at, 1), at + 1);
+        const char c = text[at++];
+        if (!TagMarks[static_cast<unsigned char>(c)])
             continue;
-        }
-        ++at;
+        if (c == '>')
+            return at;
+        ++values;
+        at = endOf(text, c, at);
     }
     return at;
 }
@@ -119,23 +134,34 @@ struct Stretch
     unsigned values;    ///< quoted values of a tag
 };
 
-// The stretch that starts at the offset. Up to the first fault of the markup it is the one that the parser sees.
-Stretch stretchAt(std::string_view text, std::size_t at) noexcept
+// The stretch of markup that is no tag.
+Stretch remarkAt(std::string_view text, std::size_t at) noexcept
 {
     const auto rest = text.substr(at, 9);
-    if (rest.front() != '<')
-        return {at, std::min(text.find('<', at), text.size()), true, 0};
     if (rest.substr(0, 2) == "<?")
         return {at, endOf(text, "?>", at), false, 0};
     if (rest.substr(0, 4) == "<!--")
         return {at, endOf(text, "-->", at + 4), false, 0};
-    if (rest == "<![CDATA[")
-        return {at, endOf(text, "]]>", at), false, 0};
-    if (rest.substr(0, 2) == "<!")
-        return {at, endOf(text, ">", at), false, 0};
-    Stretch tag{at, 0, true, 0};
-    tag.end = std::min(endOfTag(text, at + 1, tag.values) + 1, text.size());
-    return tag;
+    return {at, endOf(text, rest == "<![CDATA[" ? "]]>" : ">", at), false, 0};
+}
+
+bool isTagAt(std::string_view text, std::size_t at) noexcept
+{
+    const char next = at + 1 < text.size() ? text[at + 1] : '\0';
+    return text[at] == '<' && next != '?' && next != '!';
+}
+
+// The stretch that starts at the offset. Up to the first fault of the markup it is the one that the parser sees.
+Stretch stretchAt(std::string_view text, std::size_t at) noexcept
+{
+    Stretch stretch{at, 0, true, 0};
+    if (isTagAt(text, at))
+        stretch.end = endOfTag(text, at + 1, stretch.values);
+    else if (text[at] == '<')
+        stretch = remarkAt(text, at);
+    else
+        stretch.end = std::min(text.find('<', at), text.size());
+    return stretch;
 }
 
 TextFault findBadReferenceIn(std::string_view text, std::size_t begin, std::size_t end) noexcept
@@ -169,10 +195,11 @@ TextFault findCrowdedElement(std::string_view text) noexcept
 {
     for (std::size_t at = 0; at < text.size();)
     {
-        const auto stretch = stretchAt(text, at);
-        if (stretch.values > CXmlDocument::MaxAttributes)
-            return {"too many attributes", stretch.begin};
-        at = stretch.end;
+        unsigned values = 0;
+        const auto end = isTagAt(text, at) ? endOfTag(text, at + 1, values) : stretchAt(text, at).end;
+        if (values > CXmlDocument::MaxAttributes)
+            return {"too many attributes", at};
+        at = end;
     }
     return NoFault;
 }

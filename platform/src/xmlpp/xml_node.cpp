@@ -27,7 +27,7 @@ bool isNamed(const char* text, CXmlName name) noexcept
 // would wait for those bytes, single ones do not.
 std::string_view viewOf(const char* value) noexcept
 {
-    constexpr std::size_t shortSize = 24;
+    constexpr std::size_t shortSize = 40;
     std::size_t size = 0;
     while (size < shortSize && value[size] != '\0')
         ++size;
@@ -85,11 +85,13 @@ void checkValue(CXmlName attribute, std::string_view value)
         throw exc::CRuntimeExc("The value of attribute [%1] has a character that XML cannot carry.", attribute.c_str());
 }
 
-tinyxml2::XMLElement* nextNamed(tinyxml2::XMLElement* element, const std::string* name)
+// The element of the name from the node on, or any element without a name. The name is compared first: a comment or
+// text that reads like it is rare, and is told from an element then.
+tinyxml2::XMLNode* nextElement(tinyxml2::XMLNode* from, const char* name)
 {
-    while (element != nullptr && name != nullptr && *name != element->Name())
-        element = element->NextSiblingElement();
-    return element;
+    while (from != nullptr && !((name == nullptr || isNamed(from->Value(), name)) && from->ToElement() != nullptr))
+        from = from->NextSibling();
+    return from;
 }
 
 } // namespace
@@ -128,12 +130,9 @@ int CXmlNode::GetLine() const
     return m_node->GetLineNum();
 }
 
-// The name is compared first: a comment or text that reads like it is rare, and is told from an element then.
 tinyxml2::XMLNode* CXmlNode::findChild(CXmlName name) const
 {
-    auto* child = m_node->FirstChild();
-    while (child != nullptr && !(isNamed(child->Value(), name) && child->ToElement() != nullptr))
-        child = child->NextSibling();
+    auto* child = nextElement(m_node->FirstChild(), name.c_str());
     noteLine(*m_document, (child != nullptr ? child : m_node)->GetLineNum());
     return child;
 }
@@ -252,7 +251,7 @@ long CXmlNode::GetInt64Attribute(CXmlName name, EInt64Form form) const
 
 guid::guid_t CXmlNode::GetGuidAttribute(CXmlName name) const
 {
-    return guid::guid_t::FromAStr(std::string(GetAttribute(name)));
+    return guid::guid_t::FromAStr(GetAttribute(name));
 }
 
 datetime::CDateTime CXmlNode::GetDateTimeAttribute(CXmlName name, std::string_view format, bool isUtc) const
@@ -355,8 +354,8 @@ CXmlNodeRange::CXmlNodeRange(CXmlNode parent, std::optional<std::string> name)
 
 CXmlNodeRange::iterator CXmlNodeRange::begin() const
 {
-    const auto* name = m_name ? &*m_name : nullptr;
-    return iterator(m_parent, nextNamed(m_parent.m_node->FirstChildElement(), name), name);
+    const char* name = m_name ? m_name->c_str() : nullptr;
+    return iterator(m_parent, nextElement(m_parent.m_node->FirstChild(), name), name);
 }
 
 CXmlNodeRange::iterator CXmlNodeRange::end() const
@@ -364,7 +363,7 @@ CXmlNodeRange::iterator CXmlNodeRange::end() const
     return iterator(m_parent, nullptr, nullptr);
 }
 
-CXmlNodeRange::iterator::iterator(CXmlNode parent, tinyxml2::XMLNode* at, const std::string* name)
+CXmlNodeRange::iterator::iterator(CXmlNode parent, tinyxml2::XMLNode* at, const char* name)
     : m_current(std::move(parent)), m_name(name)
 {
     moveTo(at);
@@ -372,7 +371,7 @@ CXmlNodeRange::iterator::iterator(CXmlNode parent, tinyxml2::XMLNode* at, const 
 
 CXmlNodeRange::iterator& CXmlNodeRange::iterator::operator++()
 {
-    moveTo(nextNamed(m_current.m_node->NextSiblingElement(), m_name));
+    moveTo(nextElement(m_current.m_node->NextSibling(), m_name));
     return *this;
 }
 

@@ -2,6 +2,7 @@
 
 /// Text, numbers and small conversions.
 #include <zelplatform/util/base64.h>
+#include <zelplatform/util/byte_words.h>
 #include <zelplatform/util/cast.h>
 #include <zelplatform/util/memory.h>
 #include <zelplatform/util/numbers.h>

@@ -149,11 +149,11 @@ public:
 
     private:
         friend class CXmlNodeRange;
-        iterator(CXmlNode parent, tinyxml2::XMLNode* at, const std::string* name);
+        iterator(CXmlNode parent, tinyxml2::XMLNode* at, const char* name);
         void moveTo(tinyxml2::XMLNode* at);
 
         CXmlNode m_current;
-        const std::string* m_name;
+        const char* m_name;
     };
 
     iterator begin() const;
