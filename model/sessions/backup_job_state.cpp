@@ -14,6 +14,7 @@ namespace
 namespace names = detail::session_names;
 
 constexpr const char* WrittenVersion = "2";
+constexpr const char* ReadFailed = "Failed to deserialize SBackupJobState.";
 
 const char* modeName(unsigned long version)
 {
@@ -23,6 +24,12 @@ const char* modeName(unsigned long version)
     case 2: return names::ObjectStorageOperationMode;
     default: throw exc::CRuntimeExc("Unsupported backup job state xml version %1.", util::toStr(version));
     }
+}
+
+SBackupJobState readState(const xmlpp::CXmlNode& root)
+{
+    const auto* mode = modeName(root.GetUint64Attribute(names::Version));
+    return {util::fromStr<long>(root.GetAttribute(mode))};
 }
 
 } // namespace
@@ -44,13 +51,21 @@ catch (std::exception& cause)
 SBackupJobState SBackupJobState::FromXmlStr(const std::string& text)
 try
 {
-    const auto root = xmlpp::CXmlDocument::Unserialize(text).GetRootNode();
-    const auto* mode = modeName(root.GetUint64Attribute(names::Version));
-    return {util::fromStr<long>(root.GetAttribute(mode))};
+    return readState(xmlpp::CXmlDocument::Unserialize(text).GetRootNode());
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("Failed to deserialize SBackupJobState.", cause);
+    exc::RegenTraceExc(ReadFailed, cause);
+}
+
+SBackupJobState SBackupJobState::FromXmlNode(const xmlpp::CXmlNode& root)
+try
+{
+    return readState(root);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc(ReadFailed, cause);
 }
 
 } // namespace zelplatform::model

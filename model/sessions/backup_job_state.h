@@ -3,6 +3,7 @@
 #include <string>
 
 #include <zelmodel/export.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model
 {
@@ -19,6 +20,9 @@ struct ZELMODEL_API SBackupJobState
     /// Reads versions 1 and 2, which name the mode differently; the root's name is not looked at. Throws "Failed to
     /// deserialize SBackupJobState. ...".
     static SBackupJobState FromXmlStr(const std::string& text);
+
+    /// Reads the element of such a document, in the same way.
+    static SBackupJobState FromXmlNode(const xmlpp::CXmlNode& root);
 
     friend bool operator==(const SBackupJobState& a, const SBackupJobState& b)
     {

@@ -7,6 +7,28 @@
 
 namespace zelplatform::model
 {
+namespace
+{
+
+constexpr const char* ReadFailed = "Failed to deserialize session details.";
+
+JobSessionDetails readDetails(const xmlpp::CXmlNode& node)
+{
+    using Names = JobSessionDetails;
+    JobSessionDetails details;
+    details.repositoryName = node.GetAttribute(Names::m_xml_RepoName);
+    details.backupType = OibAlgorithm::fromStr(std::string(node.GetAttribute(Names::m_xml_BackupType)));
+    details.repositoryFreeSpace = node.GetInt64Attribute(Names::m_xml_RepoFreeSpace);
+    details.repositoryTotalSpace = node.GetInt64Attribute(Names::m_xml_RepoTotalSpace);
+    details.isJobAwaitingForRetry = util::str_to_bool(node.GetAttribute(Names::m_xml_IsJobAwaitingForRetry));
+    details.initialRetriesNumber = node.GetUint64Attribute(Names::m_xml_InitialRetriesNumber);
+    details.currentAttemptNumber = node.GetUint64Attribute(Names::m_xml_CurrentAttemptNumber);
+    if (node.HasAttribute(Names::m_xml_OibId))
+        details.restorePointId = node.GetGuidAttribute(Names::m_xml_OibId);
+    return details;
+}
+
+} // namespace
 
 std::string JobSessionDetails::toXmlStr() const
 {
@@ -27,23 +49,22 @@ JobSessionDetails JobSessionDetails::fromXmlStr(const std::string& text)
 try
 {
     const auto document = xmlpp::CXmlDocument::Unserialize(text);
-    const auto node = document.ToNode().GetFirstChildNode(m_xml_Details);
-    JobSessionDetails details;
-    details.repositoryName = node.GetAttribute(m_xml_RepoName);
-    details.backupType = OibAlgorithm::fromStr(std::string(node.GetAttribute(m_xml_BackupType)));
-    details.repositoryFreeSpace = node.GetInt64Attribute(m_xml_RepoFreeSpace);
-    details.repositoryTotalSpace = node.GetInt64Attribute(m_xml_RepoTotalSpace);
-    details.isJobAwaitingForRetry = util::str_to_bool(node.GetAttribute(m_xml_IsJobAwaitingForRetry));
-    details.initialRetriesNumber = node.GetUint64Attribute(m_xml_InitialRetriesNumber);
-    details.currentAttemptNumber = node.GetUint64Attribute(m_xml_CurrentAttemptNumber);
-    if (node.HasAttribute(m_xml_OibId))
-        details.restorePointId = node.GetGuidAttribute(m_xml_OibId);
-    return details;
+    return readDetails(document.ToNode().GetFirstChildNode(m_xml_Details));
 }
 catch (std::exception& cause)
 {
     zelmodel_log.err("Failed to deserialize session details string: [%1].", text, cause);
-    exc::RegenTraceExc("Failed to deserialize session details.", cause);
+    exc::RegenTraceExc(ReadFailed, cause);
+}
+
+JobSessionDetails JobSessionDetails::fromXmlNode(const xmlpp::CXmlNode& root)
+try
+{
+    return readDetails(root);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc(ReadFailed, cause);
 }
 
 } // namespace zelplatform::model

@@ -5,6 +5,7 @@
 #include <zelmodel/enums/oib_algorithm.h>
 #include <zelmodel/export.h>
 #include <zelplatform/guid/guid.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model
 {
@@ -42,6 +43,9 @@ struct ZELMODEL_API JobSessionDetails
     /// Every attribute but "oib_id" must be there. A failure is logged with the whole input and thrown as "Failed to
     /// deserialize session details. ...".
     static JobSessionDetails fromXmlStr(const std::string& text);
+
+    /// Reads the element of such a document, whose name is not looked at, in the same way; a failure is not logged.
+    static JobSessionDetails fromXmlNode(const xmlpp::CXmlNode& root);
 
     friend bool operator==(const JobSessionDetails& a, const JobSessionDetails& b)
     {

@@ -13,6 +13,8 @@ namespace zelplatform::model
 namespace
 {
 
+constexpr const char* ReadFailed = "Failed to deserialize session progress details.";
+
 unsigned long bytesOf(const CSize& size) noexcept
 {
     return size;
@@ -28,6 +30,25 @@ void readSizeIfPresent(const xmlpp::CXmlNode& node, const char* name, CSize& siz
 std::int32_t readLoad(const xmlpp::CXmlNode& node, const char* name)
 {
     return util::safe_cast<std::int32_t>(node.GetInt64Attribute(name));
+}
+
+SJobSessionProgressDetails readProgress(const xmlpp::CXmlNode& node)
+{
+    using Names = SJobSessionProgressDetails;
+    SJobSessionProgressDetails details;
+    readSizeIfPresent(node, Names::m_xml_TotalSize, details.totalSize);
+    readSizeIfPresent(node, Names::m_xml_TotalUsedSize, details.totalUsedSize);
+    details.processedDataSize = CSize(node.GetUint64Attribute(Names::m_xml_ProcessedDataSize));
+    details.readDataSize = CSize(node.GetUint64Attribute(Names::m_xml_ReadDataSize));
+    details.transferredDataSize = CSize(node.GetUint64Attribute(Names::m_xml_TransferredDataSize));
+    details.processingSpeed = CSize(node.GetUint64Attribute(Names::m_xml_ProcessingSpeed));
+    details.sourceReadLoad = readLoad(node, Names::m_xml_SourceReadLoad);
+    details.sourceProcessingLoad = readLoad(node, Names::m_xml_SourceProcessingLoad);
+    details.networkLoad = readLoad(node, Names::m_xml_NetworkLoad);
+    details.targetWriteLoad = readLoad(node, Names::m_xml_TargetWriteLoad);
+    detail::readIfPresent(node, Names::m_xml_NetworkThrottlingEnabled, details.networkThrottlingEnabled);
+    detail::readIfPresent(node, Names::m_xml_RepositoryThrottlingEnabled, details.repositoryThrottlingEnabled);
+    return details;
 }
 
 auto fieldsOf(const SJobSessionProgressDetails& details) noexcept
@@ -80,25 +101,21 @@ SJobSessionProgressDetails SJobSessionProgressDetails::FromXml(const std::string
 try
 {
     const auto document = xmlpp::CXmlDocument::Unserialize(text);
-    const auto node = document.ToNode().GetFirstChildNode(m_xml_ProgressDetails);
-    SJobSessionProgressDetails details;
-    readSizeIfPresent(node, m_xml_TotalSize, details.totalSize);
-    readSizeIfPresent(node, m_xml_TotalUsedSize, details.totalUsedSize);
-    details.processedDataSize = CSize(node.GetUint64Attribute(m_xml_ProcessedDataSize));
-    details.readDataSize = CSize(node.GetUint64Attribute(m_xml_ReadDataSize));
-    details.transferredDataSize = CSize(node.GetUint64Attribute(m_xml_TransferredDataSize));
-    details.processingSpeed = CSize(node.GetUint64Attribute(m_xml_ProcessingSpeed));
-    details.sourceReadLoad = readLoad(node, m_xml_SourceReadLoad);
-    details.sourceProcessingLoad = readLoad(node, m_xml_SourceProcessingLoad);
-    details.networkLoad = readLoad(node, m_xml_NetworkLoad);
-    details.targetWriteLoad = readLoad(node, m_xml_TargetWriteLoad);
-    detail::readIfPresent(node, m_xml_NetworkThrottlingEnabled, details.networkThrottlingEnabled);
-    detail::readIfPresent(node, m_xml_RepositoryThrottlingEnabled, details.repositoryThrottlingEnabled);
-    return details;
+    return readProgress(document.ToNode().GetFirstChildNode(m_xml_ProgressDetails));
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("Failed to deserialize session progress details.", cause);
+    exc::RegenTraceExc(ReadFailed, cause);
+}
+
+SJobSessionProgressDetails SJobSessionProgressDetails::FromXmlNode(const xmlpp::CXmlNode& root)
+try
+{
+    return readProgress(root);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc(ReadFailed, cause);
 }
 
 std::string SJobSessionProgressDetails::CreateEmptyXml()

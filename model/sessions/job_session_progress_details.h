@@ -5,6 +5,7 @@
 
 #include <zelmodel/export.h>
 #include <zelmodel/size/size.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model
 {
@@ -47,6 +48,9 @@ struct ZELMODEL_API SJobSessionProgressDetails
 
     /// The two totals and the two flags may be missing. Throws "Failed to deserialize session progress details. ...".
     static SJobSessionProgressDetails FromXml(const std::string& text);
+
+    /// Reads the element of such a document, whose name is not looked at, in the same way.
+    static SJobSessionProgressDetails FromXmlNode(const xmlpp::CXmlNode& root);
 
     /// The text of an object without progress, made once.
     static std::string CreateEmptyXml();

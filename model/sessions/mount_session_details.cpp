@@ -13,6 +13,15 @@ namespace
 namespace names = detail::session_names;
 
 constexpr const char* RecordName = "SMountSessionDetails";
+constexpr const char* ReadFailed = "%1: Failed to deserialize from XML.";
+
+SMountSessionDetails readDetails(const xmlpp::CXmlNode& root)
+{
+    SMountSessionDetails details;
+    details.mountPoint = root.GetAttribute(names::MountPoint);
+    details.restorePointId = root.GetGuidAttribute(names::OibId);
+    return details;
+}
 
 } // namespace
 
@@ -33,15 +42,21 @@ catch (std::exception& cause)
 SMountSessionDetails SMountSessionDetails::FromXmlStr(const CUtf8String& text)
 try
 {
-    const auto root = xmlpp::CXmlDocument::Unserialize(text.str()).GetRootNode();
-    SMountSessionDetails details;
-    details.mountPoint = root.GetAttribute(names::MountPoint);
-    details.restorePointId = root.GetGuidAttribute(names::OibId);
-    return details;
+    return readDetails(xmlpp::CXmlDocument::Unserialize(text.str()).GetRootNode());
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("%1: Failed to deserialize from XML.", RecordName, cause);
+    exc::RegenTraceExc(ReadFailed, RecordName, cause);
+}
+
+SMountSessionDetails SMountSessionDetails::FromXmlNode(const xmlpp::CXmlNode& root)
+try
+{
+    return readDetails(root);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc(ReadFailed, RecordName, cause);
 }
 
 } // namespace zelplatform::model

@@ -5,6 +5,7 @@
 #include <zelmodel/export.h>
 #include <zelplatform/guid/guid.h>
 #include <zelplatform/util/unicode.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model
 {
@@ -24,6 +25,9 @@ struct ZELMODEL_API SMountSessionDetails
 
     /// The root's name is not looked at. Throws "SMountSessionDetails: Failed to deserialize from XML. ...".
     static SMountSessionDetails FromXmlStr(const CUtf8String& text);
+
+    /// Reads the element of such a document, in the same way.
+    static SMountSessionDetails FromXmlNode(const xmlpp::CXmlNode& root);
 
     friend bool operator==(const SMountSessionDetails& a, const SMountSessionDetails& b)
     {

@@ -35,7 +35,11 @@ std::string SApplicationProcessingOracleConfig::ToXmlString() const
 
 SApplicationProcessingOracleConfig SApplicationProcessingOracleConfig::FromXmlString(const std::string& text)
 {
-    const auto root = xmlpp::CXmlDocument::Unserialize(text).GetRootNode();
+    return FromXmlNode(xmlpp::CXmlDocument::Unserialize(text).GetRootNode());
+}
+
+SApplicationProcessingOracleConfig SApplicationProcessingOracleConfig::FromXmlNode(const xmlpp::CXmlNode& root)
+{
     SApplicationProcessingOracleConfig config;
     config.username = readUser(root, names::Username);
     if (const auto child = root.FindChildNode(names::LogsTruncateConfig))
@@ -54,7 +58,11 @@ std::string SApplicationProcessingPostgresConfig::ToXmlString() const
 
 SApplicationProcessingPostgresConfig SApplicationProcessingPostgresConfig::FromXmlString(const std::string& text)
 {
-    const auto root = xmlpp::CXmlDocument::Unserialize(text).GetRootNode();
+    return FromXmlNode(xmlpp::CXmlDocument::Unserialize(text).GetRootNode());
+}
+
+SApplicationProcessingPostgresConfig SApplicationProcessingPostgresConfig::FromXmlNode(const xmlpp::CXmlNode& root)
+{
     SApplicationProcessingPostgresConfig config;
     config.osUser = readUser(root, names::OsUser);
     config.authType = EPostgreSqlAuthType::FromStr(std::string(root.GetAttribute(names::AuthType)));

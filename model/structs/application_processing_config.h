@@ -6,6 +6,7 @@
 #include <zelmodel/structs/archived_logs_truncation.h>
 #include <zelmodel/structs/postgresql_auth_type.h>
 #include <zelplatform/util/unicode.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model::structs
 {
@@ -23,6 +24,9 @@ struct ZELMODEL_API SApplicationProcessingOracleConfig
     /// A document without "LogsTruncateConfig" keeps the defaults. Throws exc::CRuntimeExc for what is missing or
     /// wrong.
     static SApplicationProcessingOracleConfig FromXmlString(const std::string& text);
+
+    /// Reads the element of such a document, in the same way.
+    static SApplicationProcessingOracleConfig FromXmlNode(const xmlpp::CXmlNode& root);
 
     friend bool operator==(const SApplicationProcessingOracleConfig& a, const SApplicationProcessingOracleConfig& b)
     {
@@ -45,6 +49,9 @@ struct ZELMODEL_API SApplicationProcessingPostgresConfig
 
     /// Throws exc::CRuntimeExc for what is missing or wrong.
     static SApplicationProcessingPostgresConfig FromXmlString(const std::string& text);
+
+    /// Reads the element of such a document, in the same way.
+    static SApplicationProcessingPostgresConfig FromXmlNode(const xmlpp::CXmlNode& root);
 
     friend bool operator==(const SApplicationProcessingPostgresConfig& a, const SApplicationProcessingPostgresConfig& b)
     {

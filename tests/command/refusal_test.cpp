@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
     Records, Refused,
     testing::Values(
         RefusedCase{"refused/oracle-unknown-mode.xml",
-                    "refused/oracle-unknown-mode.xml:2: refused\n"
+                    "refused/oracle-unknown-mode.xml:3: refused\n"
                     "  Failed to convert string to EArchivedLogsTruncationMode::type\n"
                     "  Unknown string: byage\n"},
         RefusedCase{"refused/postgres-unknown-authentication.xml",
@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "  Failed to deserialize session details.\n"
                     "  Unable to convert string [Synthetic] to OibAlgorithm::type.\n"},
         RefusedCase{"refused/session-progress-load-too-large.xml",
-                    "refused/session-progress-load-too-large.xml:2: refused\n"
+                    "refused/session-progress-load-too-large.xml:3: refused\n"
                     "  Failed to deserialize session progress details.\n"
                     "  Unable to cast value from [long] to [int].\n"},
         RefusedCase{"refused/task-log-record-of-unknown-status.xml",

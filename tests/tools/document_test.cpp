@@ -173,13 +173,27 @@ TEST(RefusedLine, IsWhereTheReaderStopped)
         LineCase{"<JobOptionsRoot>\n<RetainCycles>0</RetainCycles>\n"
                  "<RetentionType>Cycles</RetentionType>\n</JobOptionsRoot>",
                  2},
-        // Enclosed elements and their attributes; records that are read from a text: the element.
+        // Enclosed elements and their attributes.
         LineCase{"<a>\n<JobSettings\nChainLength=\"x\"/></a>", 3},
         LineCase{"<a>\n<ImmutabilitySettings IsEnabled=\"true\"\nIntervalDays=\"2147483648\"/></a>", 3},
         LineCase{"<AmazonS3SpecificParams>\n<Credentials AccessKeyId=\"\"\nSecretAccessKey=\"\"/>"
                  "</AmazonS3SpecificParams>",
                  2},
-        LineCase{"\n<Details repo_name=\"\"\nbackup_type=\"x\"/>", 2},
+        // A missing attribute is told of its element.
+        LineCase{"\n<Details repo_name=\"\"\nbackup_type=\"x\"/>", 3}, LineCase{"\n<Details\nrepo_name=\"\"/>", 2},
+        LineCase{"<ProgressDetails total_size=\"1\"\ntotal_used_size=\"-1\"/>", 2},
+        LineCase{"\n<ProgressDetails\ntotal_size=\"1\"/>", 2},
+        LineCase{"<MountSessionDetails MountPoint=\"\"\n\nOibId=\"x\"/>", 3},
+        LineCase{"<BackupJobState\nVersion=\"3\"\nObjectStorageOperationMode=\"3\"/>", 2},
+        LineCase{"<BackupJobState\nVersion=\"2\"\nObjectStorageOperationMode=\"x\"/>", 3},
+        LineCase{"<BackupJobState\nVersion=\"1\"\nObjectStorageOperationMode=\"3\"/>", 1},
+        LineCase{"<OracleConfig\nusername=\"\">\n<LogsTruncateConfig mode=\"ByAge\"\nsizeGB=\"x\"/>"
+                 "</OracleConfig>",
+                 4},
+        LineCase{"\n<OracleConfig>\n<LogsTruncateConfig/></OracleConfig>", 2},
+        LineCase{"<PostgresConfig\nosUser=\"\"\nauthType=\"x\"/>", 3},
+        LineCase{"<root regionId=\"\"\nrepoName=\"\"\nclientInfo.id=\"x\"/>", 3},
+        LineCase{"\n<root regionId=\"\"\nclientInfo.id=\"x\"/>", 2},
         LineCase{"<FullTransformSpec Id=\"\"\nBackupId=\"x\"/>", 2}, LineCase{"<SqlVariant Value=\"\"\nType=\"\"/>", 2},
         LineCase{"<GfsPolicy\nIsEnabled=\"maybe\"/>", 2}, LineCase{"<ScheduleWindow Minutes=\"0\"\n Kind=\"x\"/>", 2}};
     for (const auto& expected : cases)

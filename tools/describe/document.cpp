@@ -1,7 +1,5 @@
 #include "document.h"
 
-#include <utility>
-
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
@@ -22,7 +20,7 @@ namespace transform = zelplatform::model::transform;
 class Source
 {
 public:
-    Source(const std::string& text, const xmlpp::CXmlDocument& xml) : m_text(text), m_xml(xml) {}
+    explicit Source(const xmlpp::CXmlDocument& xml) : m_xml(xml) {}
 
     xmlpp::CXmlNode top() const { return m_xml.ToNode(); }
     xmlpp::CXmlNode root() const { return m_xml.GetRootNode(); }
@@ -34,16 +32,7 @@ public:
     /// The parent of an element that is the root or stands below it.
     xmlpp::CXmlNode parentOf(const char* element) const { return root().GetName() == element ? top() : root(); }
 
-    /// The text, for records that are read from nothing else. Their reader parses it once more, so that this document
-    /// knows no line of a refusal but that of its element.
-    const std::string& textOfRoot() const
-    {
-        top().HasNode(root().GetName());
-        return m_text;
-    }
-
 private:
-    const std::string& m_text;
     const xmlpp::CXmlDocument& m_xml;
 };
 
@@ -139,7 +128,7 @@ structs::SSqlVariant readSqlVariant(const xmlpp::CXmlNode& root)
 
 } // namespace
 
-Document::Document(std::string text) : m_text(std::move(text)), m_xml(xmlpp::CXmlDocument::Unserialize(m_text)) {}
+Document::Document(const std::string& text) : m_xml(xmlpp::CXmlDocument::Unserialize(text)) {}
 
 EDocumentKind Document::kind() const
 {
@@ -149,7 +138,7 @@ EDocumentKind Document::kind() const
 Node Document::describe() const
 {
     const auto found = kind();
-    const Source source(m_text, m_xml);
+    const Source source(m_xml);
     const auto root = source.root();
     const auto place = source.rootPlace();
     switch (found)
@@ -161,27 +150,23 @@ Node Document::describe() const
     case EDocumentKind::ScheduleWindow: return visitWindow(*readWindow(), place);
     case EDocumentKind::GfsPolicy: return describeGfsPolicy(source);
     case EDocumentKind::OracleConfig:
-        return visitOracleConfig(structs::SApplicationProcessingOracleConfig::FromXmlString(source.textOfRoot()),
-                                 place);
+        return visitOracleConfig(structs::SApplicationProcessingOracleConfig::FromXmlNode(root), place);
     case EDocumentKind::PostgresConfig:
-        return visitPostgresConfig(structs::SApplicationProcessingPostgresConfig::FromXmlString(source.textOfRoot()),
-                                   place);
+        return visitPostgresConfig(structs::SApplicationProcessingPostgresConfig::FromXmlNode(root), place);
     case EDocumentKind::RepositoryLimitations: return describeLimitations(source);
     case EDocumentKind::Immutability: return describeImmutability(source);
     case EDocumentKind::DirectImmutability: return describeDirectImmutability(source);
     case EDocumentKind::S3Params:
         return visitS3Params(structs::SAmazonS3SpecificParams::FromXmlNode(source.top()), place);
     case EDocumentKind::CloudContainer:
-        return visitCloudContainer(structs::SExternalRepoCloudContainer::Unserialize(source.textOfRoot()), place);
+        return visitCloudContainer(structs::SExternalRepoCloudContainer::FromXmlNode(root), place);
     case EDocumentKind::SqlVariant: return visitSqlVariant(readSqlVariant(root), place);
-    case EDocumentKind::SessionDetails:
-        return visitSessionDetails(model::JobSessionDetails::fromXmlStr(source.textOfRoot()), place);
+    case EDocumentKind::SessionDetails: return visitSessionDetails(model::JobSessionDetails::fromXmlNode(root), place);
     case EDocumentKind::SessionProgress:
-        return visitSessionProgress(model::SJobSessionProgressDetails::FromXml(source.textOfRoot()), place);
+        return visitSessionProgress(model::SJobSessionProgressDetails::FromXmlNode(root), place);
     case EDocumentKind::TaskLogRecord: return visitTaskLogRecord(model::STaskLogRecord::FromXml(root), place);
-    case EDocumentKind::MountSession:
-        return visitMountSession(model::SMountSessionDetails::FromXmlStr(source.textOfRoot()), place);
-    case EDocumentKind::JobState: return visitJobState(model::SBackupJobState::FromXmlStr(source.textOfRoot()), place);
+    case EDocumentKind::MountSession: return visitMountSession(model::SMountSessionDetails::FromXmlNode(root), place);
+    case EDocumentKind::JobState: return visitJobState(model::SBackupJobState::FromXmlNode(root), place);
     case EDocumentKind::DeletePointTransform:
         return visitDeletePointTransform(*transform::CTransformSpec::FromXmlNode(root), place);
     case EDocumentKind::SyntheticFullTransform:

@@ -19,7 +19,7 @@ class Document
 {
 public:
     /// Parses the text; throws exc::CRuntimeExc for malformed XML. What the text is about is asked later.
-    explicit Document(std::string text);
+    explicit Document(const std::string& text);
 
     /// See kindOf.
     EDocumentKind kind() const;
@@ -34,12 +34,10 @@ public:
     /// The window of a "ScheduleWindow" document; other kinds are refused.
     std::shared_ptr<zelplatform::model::structs::BackupWindow> readWindow() const;
 
-    /// The line that was read last: after a refusal the one that it is about, or that of the element when the library
-    /// reads the kind from a text only. 0 when none is known.
+    /// The line that was read last: after a refusal the one that it is about. 0 when none is known.
     int lastReadLine() const { return m_xml.LastReadLine(); }
 
 private:
-    std::string m_text;
     xmlpp::CXmlDocument m_xml;
 };
 

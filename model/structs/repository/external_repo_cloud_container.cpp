@@ -12,6 +12,27 @@ namespace
 
 namespace names = detail::repository_names;
 
+constexpr const char* ReadFailed = "Failed to SExternalRepoCloudContainer::Unserialize.";
+
+SExternalRepoCloudContainer readContainer(const xmlpp::CXmlNode& root)
+{
+    SExternalRepoCloudContainer container;
+    container.regionId = root.GetAttribute(names::RegionId);
+    container.repositoryName = root.GetAttribute(names::RepoName);
+    const auto clientId =
+        cloudbackuplib::CCloudRepoClientId::Deserialize(std::string(root.GetAttribute(names::ClientId)));
+    container.clientId = cloudbackuplib::CCloudRepoClientId(clientId.GetGuid());
+    container.clientDescription = root.GetAttribute(names::ClientDescription);
+    container.isObjectLockEnabled = root.GetBoolAttribute(names::IsObjectLockEnabled);
+    SAmazonS3SpecificParams s3;
+    s3.credentials.lastUpdateTimeUtc = datetime::CDateTime::currentUtcTime();
+    s3.credentials.secretAccessKey = root.GetAttribute(names::S3SecretAccessKey);
+    s3.credentials.accessKeyId = root.GetAttribute(names::S3AccessKeyId);
+    s3.endpoint.apiEndpoint = root.GetAttribute(names::S3ApiEndpoint);
+    container.s3Params = s3;
+    return container;
+}
+
 } // namespace
 
 std::string SExternalRepoCloudContainer::Serialize() const
@@ -40,26 +61,21 @@ SExternalRepoCloudContainer SExternalRepoCloudContainer::Unserialize(const std::
 try
 {
     const auto document = xmlpp::CXmlDocument::Unserialize(text);
-    const auto root = document.GetRootNode(names::CloudContainerRoot);
-    SExternalRepoCloudContainer container;
-    container.regionId = root.GetAttribute(names::RegionId);
-    container.repositoryName = root.GetAttribute(names::RepoName);
-    const auto clientId =
-        cloudbackuplib::CCloudRepoClientId::Deserialize(std::string(root.GetAttribute(names::ClientId)));
-    container.clientId = cloudbackuplib::CCloudRepoClientId(clientId.GetGuid());
-    container.clientDescription = root.GetAttribute(names::ClientDescription);
-    container.isObjectLockEnabled = root.GetBoolAttribute(names::IsObjectLockEnabled);
-    SAmazonS3SpecificParams s3;
-    s3.credentials.lastUpdateTimeUtc = datetime::CDateTime::currentUtcTime();
-    s3.credentials.secretAccessKey = root.GetAttribute(names::S3SecretAccessKey);
-    s3.credentials.accessKeyId = root.GetAttribute(names::S3AccessKeyId);
-    s3.endpoint.apiEndpoint = root.GetAttribute(names::S3ApiEndpoint);
-    container.s3Params = s3;
-    return container;
+    return readContainer(document.GetRootNode(names::CloudContainerRoot));
 }
 catch (std::exception& cause)
 {
-    exc::RegenTraceExc("Failed to SExternalRepoCloudContainer::Unserialize.", cause);
+    exc::RegenTraceExc(ReadFailed, cause);
+}
+
+SExternalRepoCloudContainer SExternalRepoCloudContainer::FromXmlNode(const xmlpp::CXmlNode& root)
+try
+{
+    return readContainer(root);
+}
+catch (std::exception& cause)
+{
+    exc::RegenTraceExc(ReadFailed, cause);
 }
 
 } // namespace zelplatform::model::structs

@@ -12,6 +12,7 @@
 #include <zelplatform/cloudbackuplib/cloudbackuplib.h>
 #include <zelplatform/crypto/crypto.h>
 #include <zelplatform/guid/guid.h>
+#include <zelplatform/xmlpp/xml_node.h>
 
 namespace zelplatform::model::structs
 {
@@ -55,6 +56,9 @@ struct ZELMODEL_API SExternalRepoCloudContainer
     /// Reads the string form; what it does not carry is empty, and the credentials' update time is now. Throws "Failed
     /// to SExternalRepoCloudContainer::Unserialize. ...".
     static SExternalRepoCloudContainer Unserialize(const std::string& text);
+
+    /// Reads the element of the string form, in the same way and with the same sentence. Its name is not looked at.
+    static SExternalRepoCloudContainer FromXmlNode(const xmlpp::CXmlNode& root);
 };
 
 } // namespace zelplatform::model::structs
