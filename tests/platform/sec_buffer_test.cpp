@@ -20,6 +20,20 @@ TEST(SecBufferTest, ErasesMemory)
     util::SecureErase(nullptr, 0);
 }
 
+TEST(SecBufferTest, ComparesMemory)
+{
+    const std::string text("a\0secret", 8);
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        std::string other = text;
+        EXPECT_TRUE(util::SecureEqual(text.data(), other.data(), text.size()));
+        ++other[i];
+        EXPECT_FALSE(util::SecureEqual(text.data(), other.data(), text.size())) << i;
+        EXPECT_TRUE(util::SecureEqual(text.data(), other.data(), i)) << i;
+    }
+    EXPECT_TRUE(util::SecureEqual(nullptr, nullptr, 0));
+}
+
 TEST(SecBufferTest, HoldsBytes)
 {
     crypto::sec_buffer_t buffer;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <keys/sample_keys.h>
 #include <support/golden.h>
 #include <zelmodel/repositories.h>
 #include <zelplatform/datetime/datetime.h>
@@ -76,6 +77,67 @@ TEST_F(ExternalRepoCloudContainer, DefaultIsEmpty)
     EXPECT_EQ(0, container.s3Params.which());
     EXPECT_TRUE(paramsOf(container) == SAmazonS3SpecificParams());
     EXPECT_TRUE(container.extentS3Params.empty());
+}
+
+SCloudContainerEncryption encryption()
+{
+    const auto id = guid::guid_t::FromAStr(ClientId);
+    const zelmodel_test::KeySetParts parts;
+    return {parts.make(), zelmodel_test::key("key"), {{id, parts.make()}, {guid::guid_t(), nullptr}}};
+}
+
+TEST_F(ExternalRepoCloudContainer, EqualityComparesEveryField)
+{
+    using Container = SExternalRepoCloudContainer;
+    void (*const changes[])(Container&) = {
+        [](Container& container) { container.id = guid::guid_t(); },
+        [](Container& container) { container.regionId.clear(); },
+        [](Container& container) { container.containerName.clear(); },
+        [](Container& container) { container.encryption = encryption(); },
+        [](Container& container) { container.encryption.reset(); },
+        [](Container& container) { container.repositoryName.clear(); },
+        [](Container& container) { container.clientId = cloudbackuplib::CCloudRepoClientId(); },
+        [](Container& container) { container.clientDescription.clear(); },
+        [](Container& container) { container.backupPath.clear(); },
+        [](Container& container) { container.ownerName.clear(); },
+        [](Container& container) { container.tag.clear(); },
+        [](Container& container) { container.isObjectLockEnabled = false; },
+        [](Container& container) { boost::get<SAmazonS3SpecificParams>(container.s3Params).credentials.Clear(); },
+        [](Container& container) { container.extentS3Params.clear(); },
+        [](Container& container) { container.extentS3Params.begin()->second = SAmazonS3SpecificParams(); },
+    };
+    EXPECT_TRUE(Container() == Container());
+    EXPECT_TRUE(fullContainer() == fullContainer());
+    EXPECT_FALSE(fullContainer() != fullContainer());
+    for (const auto change : changes)
+    {
+        Container container = fullContainer();
+        change(container);
+        EXPECT_TRUE(container != fullContainer());
+        EXPECT_FALSE(container == fullContainer());
+    }
+}
+
+TEST_F(ExternalRepoCloudContainer, EncryptionIsEqualWhenItsKeysHoldTheSame)
+{
+    using Encryption = SCloudContainerEncryption;
+    void (*const changes[])(Encryption&) = {
+        [](Encryption& keys) { keys.keySet = nullptr; },
+        [](Encryption& keys) { keys.key = nullptr; },
+        [](Encryption& keys) { keys.key = zelmodel_test::key("Key"); },
+        [](Encryption& keys) { keys.keySets.clear(); },
+        [](Encryption& keys) { keys.keySets[guid::guid_t()] = keys.keySet; },
+    };
+    EXPECT_TRUE(Encryption() == Encryption());
+    EXPECT_TRUE(encryption() == encryption());
+    EXPECT_FALSE(encryption() != encryption());
+    for (const auto change : changes)
+    {
+        Encryption keys = encryption();
+        change(keys);
+        EXPECT_TRUE(keys != encryption());
+        EXPECT_FALSE(keys == encryption());
+    }
 }
 
 TEST_F(ExternalRepoCloudContainer, WritesASubsetBehindADeclaration)

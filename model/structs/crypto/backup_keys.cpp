@@ -9,6 +9,7 @@
 #include <zelplatform/util/util.h>
 
 #include "detail/base64_form.h"
+#include "detail/key_content.h"
 
 namespace zelplatform::model::structs
 {
@@ -58,6 +59,11 @@ SExplicitBackupKeys SExplicitBackupKeys::FromBase64(const std::string& text)
     return detail::fromBase64Form<SExplicitBackupKeys>(text);
 }
 
+bool operator==(const SExplicitBackupKeys& a, const SExplicitBackupKeys& b)
+{
+    return a.id == b.id && detail::areSameKeySets(a.keySets, b.keySets);
+}
+
 void SPasswordDerivedKey::Serialize(io::binary_stream_tt& stream) const
 {
     if (!keySet)
@@ -88,6 +94,11 @@ std::string SPasswordDerivedKey::ToBase64() const
 SPasswordDerivedKey SPasswordDerivedKey::FromBase64(const std::string& text)
 {
     return detail::fromBase64Form<SPasswordDerivedKey>(text);
+}
+
+bool operator==(const SPasswordDerivedKey& a, const SPasswordDerivedKey& b)
+{
+    return detail::isSameKeySet(a.keySet, b.keySet) && detail::isSameBuffer(a.buffer, b.buffer);
 }
 
 } // namespace zelplatform::model::structs

@@ -31,6 +31,13 @@ struct ZELMODEL_API SExplicitBackupKeys
     static SExplicitBackupKeys FromBase64(const std::string& text);
 };
 
+/// Compares the key sets by what they hold; two empty pointers are equal.
+ZELMODEL_API bool operator==(const SExplicitBackupKeys& a, const SExplicitBackupKeys& b);
+inline bool operator!=(const SExplicitBackupKeys& a, const SExplicitBackupKeys& b)
+{
+    return !(a == b);
+}
+
 /// A key set that is derived from a password, with the bytes of its derivation. Treat its forms as secret.
 struct ZELMODEL_API SPasswordDerivedKey
 {
@@ -49,5 +56,12 @@ struct ZELMODEL_API SPasswordDerivedKey
     std::string ToBase64() const;
     static SPasswordDerivedKey FromBase64(const std::string& text);
 };
+
+/// Compares the key set and the buffer by what they hold; two empty pointers are equal.
+ZELMODEL_API bool operator==(const SPasswordDerivedKey& a, const SPasswordDerivedKey& b);
+inline bool operator!=(const SPasswordDerivedKey& a, const SPasswordDerivedKey& b)
+{
+    return !(a == b);
+}
 
 } // namespace zelplatform::model::structs

@@ -3,6 +3,8 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
+#include "detail/key_content.h"
+
 namespace zelplatform::model::structs
 {
 
@@ -42,6 +44,13 @@ catch (std::exception& cause)
         util::str_format("Failed to convert SCryptoKey to CKeySetPtr. ID: %1, type: %2, keyset ID: ", util::toStr(id),
                          ECryptoKeyType::ToLogString(type));
     exc::RegenExc(context + keySetId.ToLogString(), cause);
+}
+
+bool operator==(const SCryptoKey& a, const SCryptoKey& b)
+{
+    return a.id == b.id && a.keySetId == b.keySetId && a.alg == b.alg && a.type == b.type && a.hint == b.hint &&
+           !(a.creationTime < b.creationTime) && !(a.creationTime > b.creationTime) &&
+           detail::areSameKeys(a.keys, b.keys);
 }
 
 } // namespace zelplatform::model::structs

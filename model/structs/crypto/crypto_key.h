@@ -37,4 +37,11 @@ struct ZELMODEL_API SCryptoKey
     std::shared_ptr<crypto::CKeySet> ToKeySet() const;
 };
 
+/// Compares the keys by what they hold and the creation times as instants, whatever their offsets.
+ZELMODEL_API bool operator==(const SCryptoKey& a, const SCryptoKey& b);
+inline bool operator!=(const SCryptoKey& a, const SCryptoKey& b)
+{
+    return !(a == b);
+}
+
 } // namespace zelplatform::model::structs

@@ -1,8 +1,11 @@
 #include <zelmodel/structs/repository/external_repo_cloud_container.h>
 
+#include <tuple>
+
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/xmlpp/xml_document.h>
 
+#include "detail/key_content.h"
 #include "detail/repository_names.h"
 
 namespace zelplatform::model::structs
@@ -31,6 +34,14 @@ SExternalRepoCloudContainer readContainer(const xmlpp::CXmlNode& root)
     s3.endpoint.apiEndpoint = root.GetAttribute(names::S3ApiEndpoint);
     container.s3Params = s3;
     return container;
+}
+
+auto fieldsOf(const SExternalRepoCloudContainer& container) noexcept
+{
+    const auto& [id, regionId, containerName, encryption, repositoryName, clientId, clientDescription, backupPath,
+                 ownerName, tag, isObjectLockEnabled, s3Params, extentS3Params] = container;
+    return std::tie(id, regionId, containerName, encryption, repositoryName, clientId, clientDescription, backupPath,
+                    ownerName, tag, isObjectLockEnabled, s3Params, extentS3Params);
 }
 
 } // namespace
@@ -76,6 +87,17 @@ try
 catch (std::exception& cause)
 {
     exc::RegenTraceExc(ReadFailed, cause);
+}
+
+bool operator==(const SCloudContainerEncryption& a, const SCloudContainerEncryption& b)
+{
+    return detail::isSameKeySet(a.keySet, b.keySet) && detail::isSameKey(a.key, b.key) &&
+           detail::areSameKeySets(a.keySets, b.keySets);
+}
+
+bool operator==(const SExternalRepoCloudContainer& a, const SExternalRepoCloudContainer& b)
+{
+    return fieldsOf(a) == fieldsOf(b);
 }
 
 } // namespace zelplatform::model::structs

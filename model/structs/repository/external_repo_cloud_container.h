@@ -25,6 +25,13 @@ struct ZELMODEL_API SCloudContainerEncryption
     std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
 };
 
+/// Compares keys and key sets by what they hold; two empty pointers are equal.
+ZELMODEL_API bool operator==(const SCloudContainerEncryption& a, const SCloudContainerEncryption& b);
+inline bool operator!=(const SCloudContainerEncryption& a, const SCloudContainerEncryption& b)
+{
+    return !(a == b);
+}
+
 /// A repository in a cloud container (a bucket) that the agent reaches directly. Its string form, document "root" with
 /// dotted attribute names, carries only a part of the record, and the secret access key in clear: treat the text as
 /// secret.
@@ -60,5 +67,12 @@ struct ZELMODEL_API SExternalRepoCloudContainer
     /// Reads the element of the string form, in the same way and with the same sentence. Its name is not looked at.
     static SExternalRepoCloudContainer FromXmlNode(const xmlpp::CXmlNode& root);
 };
+
+/// Compares every field, whether it travels or not.
+ZELMODEL_API bool operator==(const SExternalRepoCloudContainer& a, const SExternalRepoCloudContainer& b);
+inline bool operator!=(const SExternalRepoCloudContainer& a, const SExternalRepoCloudContainer& b)
+{
+    return !(a == b);
+}
 
 } // namespace zelplatform::model::structs
