@@ -5,6 +5,7 @@
 namespace sweep
 {
 
+using namespace zelplatform::model;
 using namespace zelplatform::model::structs;
 using gfs::EGfsFlags;
 using gfs::EGfsTrackingCandidate;
@@ -12,6 +13,55 @@ using gfs::EGfsTrackingCandidate;
 std::vector<Case> jobConfigurationCases()
 {
     return {
+        {"BackupJobCompression",
+         writer(&BackupJobCompression::toStr),
+         reader(&BackupJobCompression::fromStr),
+         Letters::Exact,
+         {{0, "NoCompression"}, {1, "Rle"}, {5, "Lz4"}, {6, "Zstd3"}, {9, "Zstd9"}},
+         {{6, "ZlibLow"}, {9, "ZlibHigh"}},
+         "Unable to convert BackupJobCompression::type [%1] to string.",
+         "Unable to convert string [%1] to BackupJobCompression::type."},
+        {"BackupJobCompressionLevel",
+         writer(&BackupJobCompression::toLevelStr),
+         reader(&BackupJobCompression::fromLevelStr),
+         Letters::Exact,
+         {{0, "0"}, {1, "1"}, {5, "2"}, {6, "3"}, {9, "4"}},
+         {},
+         "Failed to convert compression type [%1] to level string Unsupported compression level",
+         "Unable to convert level string [%1] to BackupJobCompression::type."},
+        {"BackupJobCompressionServerLevel",
+         {},
+         reader(&BackupJobCompression::fromQorLevelStr),
+         Letters::Exact,
+         {},
+         {{0, "0"}, {1, "1"}, {5, "5"}, {6, "6"}, {9, "9"}},
+         {},
+         "Unable to convert QOR level string [%1] to BackupJobCompression::type."},
+        // On purpose: the count of the kinds converts like a kind.
+        {"ERetentionType",
+         writer(&ERetentionType::ToStr),
+         reader(&ERetentionType::FromStr),
+         Letters::Exact,
+         {{0, "Cycles"}, {1, "Days"}, {2, "_number"}},
+         {},
+         "Failed to convert retention type to string.",
+         "Failed to convert retention type from string."},
+        {"EIndexingType",
+         writer(&EIndexingType::ToStr),
+         reader(&EIndexingType::FromStr),
+         Letters::Exact,
+         {{0, "IsOff"}, {1, "IndexAll"}, {2, "IndexOnly"}, {3, "IndexExcept"}},
+         {},
+         "Unable to convert EIndexingType::type [%1] to string.",
+         "Unable to convert string [%1] to EIndexingType::type."},
+        {"EHealthCheckType",
+         writer(&EHealthCheckType::ToStr),
+         reader(&EHealthCheckType::FromStr),
+         Letters::Exact,
+         {{0, "Disabled"}, {1, "Light"}},
+         {},
+         "Unable to convert health-check type [%1] to string.",
+         "Unable to convert string [%1] to health-check type."},
         {"EGfsFlagsLong",
          [](int value) { return EGfsFlags::toString(static_cast<EGfsFlags::type>(value), false); },
          {},

@@ -32,6 +32,7 @@ struct Case
     std::string unknownValue;                    ///< the whole chain; %1 stands for the number
     std::string unknownText;                     ///< the whole chain; %1 stands for the text
     int first = -1;                              ///< 0 for numbers without a sign
+    std::string textOfOthers = {};               ///< of numbers without a row, where none is refused; %1 as above
 };
 
 template <class TEnum>
@@ -49,14 +50,20 @@ std::function<int(const std::string&)> reader(TEnum (*convert)(const std::string
 /// The enumerations of model/enums and model/size.
 std::vector<Case> foundationCases();
 
-/// GFS flags and tracking, ownership, application processing.
+/// Compression, retention, indexing, GFS flags and tracking, ownership, application processing.
 std::vector<Case> jobConfigurationCases();
 
 /// What a job's scope is made of.
 std::vector<Case> jobFilterCases();
 
+/// Algorithms and types of keys. Numberings of other programs are swept as texts of their numbers.
+std::vector<Case> keyCases();
+
 /// Repositories and object storages.
 std::vector<Case> repositoryCases();
+
+/// Which week day of a month a schedule means.
+std::vector<Case> scheduleCases();
 
 /// The severities of session logs.
 std::vector<Case> sessionCases();

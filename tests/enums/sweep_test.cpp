@@ -31,7 +31,9 @@ std::vector<Case> allCases()
              foundationCases(),
              jobConfigurationCases(),
              jobFilterCases(),
+             keyCases(),
              repositoryCases(),
+             scheduleCases(),
              sessionCases(),
          })
         all.insert(all.end(), family.begin(), family.end());
@@ -82,6 +84,8 @@ TEST_P(SweepTest, WritesEveryNumberOrRefusesIt)
                                       [&](const Row& candidate) { return candidate.value == value; });
         if (row != sweepCase.rows.end())
             EXPECT_EQ(sweepCase.write(value), row->text);
+        else if (!sweepCase.textOfOthers.empty())
+            EXPECT_EQ(sweepCase.write(value), filled(sweepCase.textOfOthers, std::to_string(value)));
         else
             EXPECT_EQ(failureText([&] { sweepCase.write(value); }),
                       filled(sweepCase.unknownValue, std::to_string(value)));
