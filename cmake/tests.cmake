@@ -15,7 +15,8 @@ function(zel_add_test_support)
         ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)
-    target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog OpenSSL::Crypto)
+    target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog OpenSSL::Crypto
+        tinyxml2::tinyxml2)
     target_precompile_headers(test_support PRIVATE <gtest/gtest.h>)
     zel_enable_warnings(test_support)
 endfunction()

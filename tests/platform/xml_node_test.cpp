@@ -1,4 +1,9 @@
+#include <memory>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
+#include <tinyxml2.h>
 
 #include <support/expect_failure.h>
 #include <zelplatform/exc/exc.h>
@@ -38,6 +43,26 @@ TEST(XmlNode, NamesAndLines)
     EXPECT_EQ(2, document.GetRootNode().GetFirstChildNode("b").GetLine());
     EXPECT_EQ(4, document.GetRootNode().GetFirstChildNode("c").GetLine());
     EXPECT_EQ(0, CXmlDocument().AddRootNode("built").GetLine());
+}
+
+TEST(XmlNode, IsTheDocumentOrAnElementOfIt)
+{
+    const auto document = std::make_shared<tinyxml2::XMLDocument>();
+    ASSERT_EQ(tinyxml2::XML_SUCCESS, document->Parse("<?xml version=\"1.0\"?><a><!-- c -->text<b/></a>"));
+    auto* const element = document->RootElement();
+    EXPECT_EQ("", CXmlNode(document, document.get()).GetName());
+    EXPECT_EQ("a", CXmlNode(document, element).GetName());
+    EXPECT_EQ("b", CXmlNode(document, element->LastChild()).GetName());
+
+    for (auto* other : {document->FirstChild(), element->FirstChild(), element->FirstChild()->NextSibling()})
+        EXPECT_EQ("An XML node is an element of its document.", failureText([&] { CXmlNode(document, other); }));
+    const auto another = std::make_shared<tinyxml2::XMLDocument>();
+    for (tinyxml2::XMLNode* foreign : {static_cast<tinyxml2::XMLNode*>(element), element->LastChild(),
+                                       static_cast<tinyxml2::XMLNode*>(document.get())})
+        EXPECT_EQ("An XML node is an element of its document.", failureText([&] { CXmlNode(another, foreign); }));
+
+    EXPECT_EQ("An XML node needs a document.", failureText([&] { CXmlNode(document, nullptr); }));
+    EXPECT_EQ("An XML node needs a document.", failureText([&] { CXmlNode(nullptr, element); }));
 }
 
 TEST(XmlNode, HasNodeSeesChildElementsOnly)
