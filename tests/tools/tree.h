@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -14,18 +15,19 @@
 namespace zelmodel_test
 {
 
-/// The node at the path of names, "schedule/jobStart/time".
-inline const describe::Node& at(const describe::Node& root, const std::string& path)
+/// The node at the path of names, "schedule/jobStart/time". It is a part of the root. The path is taken by
+/// value, so that no compiler takes the node for a part of a temporary text.
+inline const describe::Node& at(const describe::Node& root, std::string_view path)
 {
     const auto* node = &root;
-    std::istringstream names(path);
+    std::istringstream names{std::string(path)};
     for (std::string name; std::getline(names, name, '/');)
     {
         const auto& children = node->children;
         const auto found =
             std::find_if(children.begin(), children.end(), [&](const auto& child) { return child.name == name; });
         if (found == children.end())
-            throw std::runtime_error("There is no field " + path + ".");
+            throw std::runtime_error("There is no field " + std::string(path) + ".");
         node = &*found;
     }
     return *node;
