@@ -221,10 +221,9 @@ TEST(AgentJobOptions, OlderLayoutDaily)
     expected.deletedVmDataRetentionDays = 30;
     expected.indexing.type = structs::EIndexingType::IndexOnly;
     expected.indexing.folders = "/etc;/home";
-    structs::CWeekMask days(false);
-    for (const auto day : {datetime::EDayOfWeek::Monday, datetime::EDayOfWeek::Wednesday, datetime::EDayOfWeek::Friday})
-        days.SetDay(day, true);
-    expected.schedule.GetJobStartOptions().SetWeekly(3, 15, days);
+    using datetime::EDayOfWeek;
+    expected.schedule.GetJobStartOptions().SetWeekly(
+        3, 15, zelmodel_test::days({EDayOfWeek::Monday, EDayOfWeek::Wednesday, EDayOfWeek::Friday}));
     expectSameJob(SBackupJobOptions::fromStr(golden("legacy/job_options_daily.xml")), expected);
 }
 

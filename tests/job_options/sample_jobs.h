@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <support/schedule_samples.h>
 #include <zelmodel/job_options.h>
 #include <zelplatform/exc/exc.h>
 
@@ -37,12 +38,9 @@ inline zelplatform::model::SBackupJobOptions fullJob()
     job.indexing.folders = "/tmp;/var/tmp";
     job.productSpecific = "<p a=\"1\"/>\n";
 
-    CMonthMask quarters(false);
-    for (const auto month :
-         {datetime::EMonth::January, datetime::EMonth::April, datetime::EMonth::July, datetime::EMonth::October})
-        quarters.SetMonth(month, true);
-    CWeekMask saturday(false);
-    saturday.SetDay(datetime::EDayOfWeek::Saturday, true);
+    const auto quarters =
+        months({datetime::EMonth::January, datetime::EMonth::April, datetime::EMonth::July, datetime::EMonth::October});
+    const auto saturday = days({datetime::EDayOfWeek::Saturday});
     CMonthMask withoutFebruary(true);
     withoutFebruary.SetMonth(datetime::EMonth::February, false);
 

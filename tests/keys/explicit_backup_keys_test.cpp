@@ -16,6 +16,7 @@ using namespace zelplatform::model::structs;
 using zelmodel_test::failureText;
 using zelmodel_test::keySetBytes;
 using zelmodel_test::KeySetParts;
+using zelmodel_test::serialized;
 using zelmodel_test::TestDevice;
 using zelmodel_test::text;
 using zelmodel_test::u64;
@@ -30,21 +31,9 @@ guid::guid_t id(const std::string& value)
     return guid::guid_t::FromAStr(value);
 }
 
-std::string serialized(const SExplicitBackupKeys& keys)
-{
-    TestDevice device;
-    io::binary_stream_tt stream(device);
-    keys.Serialize(stream);
-    return device.bytes;
-}
-
 SExplicitBackupKeys unserialized(const std::string& bytes, bool isSizeKnown = true)
 {
-    TestDevice device(bytes, isSizeKnown);
-    io::binary_stream_tt stream(device);
-    SExplicitBackupKeys keys;
-    keys.Unserialize(stream);
-    return keys;
+    return zelmodel_test::unserialized<SExplicitBackupKeys>(bytes, isSizeKnown);
 }
 
 KeySetParts otherParts()

@@ -17,6 +17,7 @@ using zelmodel_test::failureText;
 using zelmodel_test::keySetBytes;
 using zelmodel_test::KeySetParts;
 using zelmodel_test::secure;
+using zelmodel_test::serialized;
 using zelmodel_test::TestDevice;
 using zelmodel_test::u8;
 
@@ -25,21 +26,9 @@ SPasswordDerivedKey derivedKey(const std::string& bytes)
     return {KeySetParts().make(), std::make_shared<crypto::sec_buffer_t>(secure(bytes))};
 }
 
-std::string serialized(const SPasswordDerivedKey& key)
-{
-    TestDevice device;
-    io::binary_stream_tt stream(device);
-    key.Serialize(stream);
-    return device.bytes;
-}
-
 SPasswordDerivedKey unserialized(const std::string& bytes, bool isSizeKnown = true)
 {
-    TestDevice device(bytes, isSizeKnown);
-    io::binary_stream_tt stream(device);
-    SPasswordDerivedKey key;
-    key.Unserialize(stream);
-    return key;
+    return zelmodel_test::unserialized<SPasswordDerivedKey>(bytes, isSizeKnown);
 }
 
 TEST(PasswordDerivedKey, DefaultHoldsNothing)

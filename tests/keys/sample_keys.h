@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include <platform/memory_device.h>
 #include <zelmodel/keys.h>
 
 namespace zelmodel_test
@@ -55,6 +56,27 @@ inline bool same(const crypto::CKeySet& a, const crypto::CKeySet& b)
     return a.GetId() == b.GetId() && a.GetAlg() == b.GetAlg() && a.GetUsageRole() == b.GetUsageRole() &&
            a.GetHint() == b.GetHint() && a.GetCreationTime().seconds == b.GetCreationTime().seconds &&
            a.GetCreationTime().nanoseconds == b.GetCreationTime().nanoseconds;
+}
+
+/// The binary form of a record.
+template <class TRecord>
+std::string serialized(const TRecord& record)
+{
+    TestDevice device;
+    io::binary_stream_tt stream(device);
+    record.Serialize(stream);
+    return device.bytes;
+}
+
+/// The record that a binary form reads as.
+template <class TRecord>
+TRecord unserialized(const std::string& bytes, bool isSizeKnown)
+{
+    TestDevice device(bytes, isSizeKnown);
+    io::binary_stream_tt stream(device);
+    TRecord record;
+    record.Unserialize(stream);
+    return record;
 }
 
 /// Little-endian numbers and texts, put together by hand.

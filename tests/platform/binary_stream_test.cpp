@@ -12,12 +12,14 @@
 
 #include "memory_device.h"
 #include "support/expect_failure.h"
+#include "support/stream_failures.h"
 
 namespace
 {
 
 using io::binary_stream_tt;
 using zelmodel_test::failureText;
+using zelmodel_test::shortRead;
 using zelmodel_test::TestDevice;
 
 enum EPlain
@@ -38,12 +40,6 @@ struct IsWritable<T, std::void_t<decltype(std::declval<binary_stream_tt&>() << s
 static_assert(IsWritable<std::uint8_t>::value && IsWritable<bool>::value && IsWritable<std::string>::value);
 static_assert(!IsWritable<const char*>::value && !IsWritable<char>::value && !IsWritable<EPlain>::value);
 static_assert(!IsWritable<double>::value && !IsWritable<std::uint16_t>::value && !IsWritable<long long>::value);
-
-std::string shortRead(const std::string& count, const std::string& size)
-{
-    return "Failed to retrieve value from the binary stream: received less bytes (" + count + ") than expected (" +
-           size + ").";
-}
 
 crypto::sec_buffer_t secure(const std::string& text)
 {
@@ -206,10 +202,8 @@ TEST(BinaryStreamTest, ReportsTheFailureOfTheDevice)
     stream >> length;
     device.answerWith(-5);
     EXPECT_EQ(failureText([&] { stream.read_secure(length); }), shortRead("-5", "3"));
-    EXPECT_EQ(failureText([&] { stream << std::uint64_t{1}; }),
-              "Failed to write value to the binary stream: written less bytes (-5) than expected (8).");
-    EXPECT_EQ(failureText([&] { stream.write("abc", 3); }),
-              "Failed to write value to the binary stream: written less bytes (-5) than expected (3).");
+    EXPECT_EQ(failureText([&] { stream << std::uint64_t{1}; }), zelmodel_test::shortWrite(-5, 8));
+    EXPECT_EQ(failureText([&] { stream.write("abc", 3); }), zelmodel_test::shortWrite(-5, 3));
 }
 
 TEST(BinaryStreamTest, RefusesATextOverThirtyTwoBitsBeforeItWrites)

@@ -7,24 +7,15 @@
 
 #include "memory_device.h"
 #include "support/expect_failure.h"
+#include "support/stream_failures.h"
 
 namespace
 {
 
 using zelmodel_test::failureText;
+using zelmodel_test::shortRead;
+using zelmodel_test::shortWrite;
 using zelmodel_test::TestDevice;
-
-std::string shortWrite(const std::string& count, const std::string& size)
-{
-    return "Failed to write value to the binary stream: written less bytes (" + count + ") than expected (" + size +
-           ").";
-}
-
-std::string shortRead(const std::string& count, const std::string& size)
-{
-    return "Failed to retrieve value from the binary stream: received less bytes (" + count + ") than expected (" +
-           size + ").";
-}
 
 TEST(IoTest, TransfersInOneCall)
 {

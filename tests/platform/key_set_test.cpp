@@ -10,6 +10,7 @@
 
 #include "memory_device.h"
 #include "support/expect_failure.h"
+#include "support/stream_failures.h"
 
 namespace
 {
@@ -18,6 +19,7 @@ using crypto::CKey;
 using crypto::CKeySet;
 using crypto::CKeySetId;
 using zelmodel_test::failureText;
+using zelmodel_test::shortRead;
 using zelmodel_test::TestDevice;
 
 using Keys = std::vector<std::shared_ptr<CKey>>;
@@ -53,12 +55,6 @@ std::string refusal(const std::string& bytes, bool isSizeKnown)
 {
     TestDevice device(bytes, isSizeKnown);
     return failureText([&] { readFrom(device); });
-}
-
-std::string shortRead(const std::string& count, const std::string& size)
-{
-    return "Failed to retrieve value from the binary stream: received less bytes (" + count + ") than expected (" +
-           size + ").";
 }
 
 CKeySet sample()

@@ -10,8 +10,8 @@
 #include <zelplatform/crypto/certificate_container.h>
 #include <zelplatform/util/base64.h>
 
-#include "made_certificates.h"
 #include "support/expect_failure.h"
+#include "support/made_certificates.h"
 
 namespace
 {

@@ -14,8 +14,8 @@
 
 #include <zelplatform/util/base64.h>
 
-#include "made_certificates.h"
 #include "support/expect_failure.h"
+#include "support/made_certificates.h"
 
 namespace
 {
@@ -36,21 +36,6 @@ std::string fingerprint(const std::string& pem)
 std::string base64(const std::string& bytes)
 {
     return util::toBase64(bytes.data(), bytes.size());
-}
-
-std::string sha256(const std::string& bytes)
-{
-    unsigned char digest[EVP_MAX_MD_SIZE];
-    unsigned size = 0;
-    require(EVP_Digest(bytes.data(), bytes.size(), digest, &size, EVP_sha256(), nullptr) == 1);
-    std::string text;
-    for (unsigned i = 0; i < size; ++i)
-    {
-        char digits[3];
-        std::snprintf(digits, sizeof(digits), "%02X", digest[i]);
-        text += digits;
-    }
-    return text;
 }
 
 /// What the command prints after "Fingerprint=", without its colons; nothing where there is no such command.

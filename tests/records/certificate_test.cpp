@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <platform/made_certificates.h>
+#include <support/made_certificates.h>
 #include <zelmodel/structs/certificate.h>
 
 namespace

@@ -5,6 +5,7 @@
 
 #include <platform/memory_device.h>
 #include <support/expect_failure.h>
+#include <support/stream_failures.h>
 #include <zelmodel/structs/qor_server.h>
 
 #include "qor_server_form.h"
@@ -33,12 +34,6 @@ std::string refusal(const std::string& bytes)
 {
     TestDevice device(bytes);
     return refusal(device);
-}
-
-std::string shortRead(const std::string& count, const std::string& size)
-{
-    return "Failed to retrieve value from the binary stream: received less bytes (" + count + ") than expected (" +
-           size + ").";
 }
 
 /// The text fields and ids of the form, in the order of the stream.
@@ -138,9 +133,7 @@ TEST(QorServerFailures, DevicesWithoutRoomAreTold)
         TestDevice device;
         device.answerWith(row.count);
         io::binary_stream_tt stream(device);
-        EXPECT_EQ("Failed to write value to the binary stream: written less bytes (" + row.text +
-                      ") than expected (4).",
-                  failureText([&] { sampleServer().Serialize(stream); }));
+        EXPECT_EQ(zelmodel_test::shortWrite(row.text, "4"), failureText([&] { sampleServer().Serialize(stream); }));
     }
 }
 

@@ -1,9 +1,9 @@
 #include <memory>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
+#include <support/attributes.h>
 #include <support/expect_failure.h>
 #include <zelmodel/repositories.h>
 #include <zelplatform/exc/exc.h>
@@ -13,19 +13,17 @@ namespace
 {
 
 using namespace zelplatform::model::structs;
+using zelmodel_test::Attributes;
+using zelmodel_test::elementText;
 using zelmodel_test::failureText;
+using zelmodel_test::firstOf;
+using zelmodel_test::without;
 
 const std::string refused = "Failed to SExternalRepoCloudContainer::Unserialize. ";
 constexpr const char* Canary = "canary-5b1e";
 
-struct Attribute
-{
-    std::string name;
-    std::string value;
-};
-
 /// In the order in which they are read, and all that is read.
-const std::vector<Attribute> attributes = {
+const Attributes attributes = {
     {"regionId", "eu-central-1"},
     {"repoName", "Night store"},
     {"clientInfo.id", "6b1f2c3d-0a1b-4c2d-8e3f-0123456789ab"},
@@ -36,23 +34,14 @@ const std::vector<Attribute> attributes = {
     {"SAmazonS3SpecificParams.endpoint.apiEndpoint", "https://s3.example.com"},
 };
 
-std::string document(const std::vector<Attribute>& given)
+std::string document(const Attributes& given)
 {
-    std::string text = "<root";
-    for (const auto& each : given)
-        text += " " + each.name + "=\"" + each.value + "\"";
-    return text + "/>";
+    return elementText("root", given);
 }
 
 std::string withValue(const std::string& name, const std::string& value)
 {
-    auto changed = attributes;
-    for (auto& each : changed)
-    {
-        if (each.name == name)
-            each.value = value;
-    }
-    return document(changed);
+    return document(zelmodel_test::withValue(attributes, name, value));
 }
 
 std::string refusal(const std::string& text)
@@ -65,10 +54,8 @@ TEST(ExternalRepoCloudContainerRefusal, AllButTheContainerNameIsRequired)
     EXPECT_NO_THROW(SExternalRepoCloudContainer::Unserialize(document(attributes)));
     for (std::size_t missing = 0; missing < attributes.size(); ++missing)
     {
-        auto rest = attributes;
-        rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
         EXPECT_EQ(refused + "Attribute [" + attributes[missing].name + "] is not found in [root].",
-                  refusal(document(rest)));
+                  refusal(document(without(attributes, missing))));
     }
 }
 
@@ -76,10 +63,8 @@ TEST(ExternalRepoCloudContainerRefusal, TheFirstMissingInReadingOrderIsNamed)
 {
     for (std::size_t present = 0; present < attributes.size(); ++present)
     {
-        const std::vector<Attribute> given(attributes.begin(),
-                                           attributes.begin() + static_cast<std::ptrdiff_t>(present));
         EXPECT_EQ(refused + "Attribute [" + attributes[present].name + "] is not found in [root].",
-                  refusal(document(given)));
+                  refusal(document(firstOf(attributes, present))));
     }
 }
 
@@ -160,10 +145,8 @@ TEST(ExternalRepoCloudContainerRefusal, NoSecretReachesAFailureOrTheLog)
     };
     for (std::size_t missing = 0; missing < attributes.size(); ++missing)
     {
-        auto rest = attributes;
-        rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
         if (attributes[missing].name.find("secret") == std::string::npos)
-            attempt(document(rest));
+            attempt(document(without(attributes, missing)));
     }
     attempt(withValue("clientInfo.id", "x"));
     attempt(withValue("isObjectLockEnabled", "x"));

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <support/attributes.h>
 #include <support/expect_failure.h>
 #include <zelmodel/repositories.h>
 #include <zelplatform/exc/exc.h>
@@ -10,20 +11,18 @@
 namespace
 {
 
+using zelmodel_test::Attributes;
+using zelmodel_test::elementText;
 using zelmodel_test::failureText;
+using zelmodel_test::firstOf;
+using zelmodel_test::without;
 using zelplatform::model::structs::CRepositoryLimitationsSpec;
 
 const std::string refused = "Unable to parse string repository limitations specification. ";
 const std::string elementRefused = refused + "Unable to parse xml repository limitations specification. ";
 
-struct Attribute
-{
-    std::string name;
-    std::string value;
-};
-
 /// In the order in which they are read.
-const std::vector<Attribute> attributes = {
+const Attributes attributes = {
     {"ChainLength", "14"},
     {"TransformFullToSynthetic", "false"},
     {"TransformIncrementsToSynthetic", "true"},
@@ -33,23 +32,14 @@ const std::vector<Attribute> attributes = {
     {"RepositoryId", "6b1f2c3d-0a1b-4c2d-8e3f-0123456789ab"},
 };
 
-std::string document(const std::vector<Attribute>& given)
+std::string document(const Attributes& given)
 {
-    std::string text = "<Repository><JobSettings";
-    for (const auto& each : given)
-        text += " " + each.name + "=\"" + each.value + "\"";
-    return text + "/></Repository>";
+    return "<Repository>" + elementText("JobSettings", given) + "</Repository>";
 }
 
 std::string withValue(const std::string& name, const std::string& value)
 {
-    auto changed = attributes;
-    for (auto& each : changed)
-    {
-        if (each.name == name)
-            each.value = value;
-    }
-    return document(changed);
+    return document(zelmodel_test::withValue(attributes, name, value));
 }
 
 std::string refusal(const std::string& text)
@@ -61,10 +51,8 @@ TEST(RepositoryLimitationsRefusal, EveryAttributeIsRequired)
 {
     for (std::size_t missing = 0; missing < attributes.size(); ++missing)
     {
-        auto rest = attributes;
-        rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(missing));
         EXPECT_EQ(elementRefused + "Attribute [" + attributes[missing].name + "] is not found in [JobSettings].",
-                  refusal(document(rest)));
+                  refusal(document(without(attributes, missing))));
     }
 }
 
@@ -72,10 +60,8 @@ TEST(RepositoryLimitationsRefusal, TheFirstMissingInReadingOrderIsNamed)
 {
     for (std::size_t present = 0; present < attributes.size(); ++present)
     {
-        const std::vector<Attribute> given(attributes.begin(),
-                                           attributes.begin() + static_cast<std::ptrdiff_t>(present));
         EXPECT_EQ(elementRefused + "Attribute [" + attributes[present].name + "] is not found in [JobSettings].",
-                  refusal(document(given)));
+                  refusal(document(firstOf(attributes, present))));
     }
 }
 

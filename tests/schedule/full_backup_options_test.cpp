@@ -5,45 +5,26 @@
 #include <gtest/gtest.h>
 
 #include <zelmodel/structs/schedule/full_backup_options.h>
-#include <zelplatform/xmlpp/xmlpp.h>
 
 #include "support/expect_failure.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::CDateTime;
 using datetime::EDayOfWeek;
 using datetime::EMonth;
+using zelmodel_test::at;
+using zelmodel_test::calendarOfType;
+using zelmodel_test::days;
 using zelmodel_test::failureText;
+using zelmodel_test::months;
+using zelmodel_test::notMonthly;
 
 namespace
 {
 
 constexpr EFullBackupType allTypes[] = {EFullBackupType::ActiveFull, EFullBackupType::SyntheticFull,
                                         EFullBackupType::Constructing};
-
-constexpr const char* notMonthly =
-    "Failed to set week day number Week day number may be changed only for month schedule";
-
-CDateTime at(const char* date)
-{
-    return CDateTime::fromString(date, "%Y-%m-%d");
-}
-
-CWeekMask days(std::initializer_list<EDayOfWeek::type> on)
-{
-    CWeekMask mask(false);
-    for (const auto day : on)
-        mask.SetDay(day, true);
-    return mask;
-}
-
-CMonthMask months(std::initializer_list<EMonth::type> on)
-{
-    CMonthMask mask(false);
-    for (const auto month : on)
-        mask.SetMonth(month, true);
-    return mask;
-}
 
 /// A weekly object that is off.
 CFullBackupOptions weeklyOff()
@@ -52,17 +33,6 @@ CFullBackupOptions weeklyOff()
     options.SetWeekly(CWeekMask(true));
     options.Disable();
     return options;
-}
-
-/// A calendar of a type that no setter makes.
-CScheduleCalendar calendarOfType(const std::string& type)
-{
-    CScheduleCalendar calendar;
-    xmlpp::CXmlDocument document;
-    auto node = document.AddRootNode("Calendar");
-    calendar.ToXml(node);
-    node.SetAttribute("Type", type);
-    return CScheduleCalendar::FromXml(node);
 }
 
 /// A clock that stands still and counts who asks.

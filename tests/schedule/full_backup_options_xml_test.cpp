@@ -9,6 +9,7 @@
 
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::EDayOfWeek;
@@ -16,27 +17,17 @@ using datetime::EMonth;
 using xmlpp::CXmlDocument;
 using zelmodel_test::failureText;
 using zelmodel_test::golden;
+using zelmodel_test::months;
+using zelmodel_test::textOf;
+using zelmodel_test::wholeWeek;
+using zelmodel_test::wholeYear;
 
 namespace
 {
 
-constexpr const char* wholeWeek = "<WeekMask Monday=\"true\" Tuesday=\"true\" Wednesday=\"true\" Thursday=\"true\" "
-                                  "Friday=\"true\" Saturday=\"true\" Sunday=\"true\"/>";
-constexpr const char* wholeYear =
-    "<MonthMask January=\"true\" February=\"true\" March=\"true\" April=\"true\" May=\"true\" June=\"true\" "
-    "July=\"true\" August=\"true\" September=\"true\" October=\"true\" November=\"true\" December=\"true\"/>";
-
 constexpr const char* readFailed = "ActiveFullOptions: Failed to deserialize from Xml. ";
 constexpr const char* calendarFailed =
     "ActiveFullOptions: Failed to deserialize from Xml. ScheduleCalendar: Failed to deserialize from Xml. ";
-
-std::string textOf(const CFullBackupOptions& options)
-{
-    CXmlDocument document;
-    auto node = document.ToNode();
-    options.ToXml(node);
-    return document.Serialize();
-}
 
 CFullBackupOptions read(const std::string& text, EFullBackupType type)
 {
@@ -47,14 +38,6 @@ CFullBackupOptions read(const std::string& text, EFullBackupType type)
 std::string withAttributes(const std::string& attributes)
 {
     return "<ActiveFullOptions " + attributes + ">" + wholeWeek + wholeYear + "</ActiveFullOptions>";
-}
-
-CMonthMask months(std::initializer_list<EMonth::type> on)
-{
-    CMonthMask mask(false);
-    for (const auto month : on)
-        mask.SetMonth(month, true);
-    return mask;
 }
 
 struct SGolden

@@ -8,21 +8,15 @@
 #include <zelplatform/datetime/clock.h>
 
 #include "support/expect_failure.h"
+#include "support/schedule_samples.h"
 
 using datetime::EMonth;
 using zelmodel_test::failureText;
+using zelmodel_test::months;
 using zelplatform::model::structs::CMonthMask;
 
 namespace
 {
-
-CMonthMask maskOf(std::initializer_list<EMonth::type> months)
-{
-    CMonthMask mask(false);
-    for (const auto month : months)
-        mask.SetMonth(month, true);
-    return mask;
-}
 
 const auto NoSuchMonth = static_cast<EMonth::type>(12);
 
@@ -39,7 +33,7 @@ TEST(MonthMaskValue, HasTwelveFlagsJanuaryFirst)
     EXPECT_EQ(CMonthMask::GetNumberOfMonths(), 12U);
     EXPECT_EQ(CMonthMask(true).GetMask(), std::vector<bool>(12, true));
     EXPECT_EQ(CMonthMask(false).GetMask(), std::vector<bool>(12, false));
-    EXPECT_EQ(maskOf({EMonth::January, EMonth::March}).GetMask(),
+    EXPECT_EQ(months({EMonth::January, EMonth::March}).GetMask(),
               (std::vector<bool>{true, false, true, false, false, false, false, false, false, false, false, false}));
 }
 
@@ -58,7 +52,7 @@ TEST(MonthMaskValue, SetsAndAsksEachMonth)
 
 TEST(MonthMaskValue, ResetsAndAsksForAll)
 {
-    CMonthMask mask = maskOf({EMonth::May});
+    CMonthMask mask = months({EMonth::May});
     EXPECT_FALSE(mask.IsAllMonthsOn());
     EXPECT_FALSE(mask.IsAllMonthsOff());
     mask.Reset(true);
@@ -73,20 +67,20 @@ TEST(MonthMaskValue, ResetsAndAsksForAll)
 
 TEST(MonthMaskValue, ComparesFlags)
 {
-    EXPECT_TRUE(maskOf({EMonth::May}) == maskOf({EMonth::May}));
-    EXPECT_TRUE(maskOf({EMonth::May}) != maskOf({EMonth::June}));
-    EXPECT_FALSE(maskOf({EMonth::May}) != maskOf({EMonth::May}));
+    EXPECT_TRUE(months({EMonth::May}) == months({EMonth::May}));
+    EXPECT_TRUE(months({EMonth::May}) != months({EMonth::June}));
+    EXPECT_FALSE(months({EMonth::May}) != months({EMonth::May}));
 }
 
 TEST(MonthMaskValue, InvertsAndIntersects)
 {
     EXPECT_EQ(!CMonthMask(true), CMonthMask(false));
     EXPECT_EQ(!CMonthMask(false), CMonthMask(true));
-    const CMonthMask winter = maskOf({EMonth::December, EMonth::January, EMonth::February});
+    const CMonthMask winter = months({EMonth::December, EMonth::January, EMonth::February});
     EXPECT_FALSE((!winter).IsMonthOn(EMonth::January));
     EXPECT_TRUE((!winter).IsMonthOn(EMonth::March));
     EXPECT_EQ(!!winter, winter);
-    EXPECT_EQ(winter && maskOf({EMonth::February, EMonth::March}), maskOf({EMonth::February}));
+    EXPECT_EQ(winter && months({EMonth::February, EMonth::March}), months({EMonth::February}));
     EXPECT_EQ(winter && CMonthMask(true), winter);
     EXPECT_EQ(winter && !winter, CMonthMask(false));
 }
@@ -95,11 +89,11 @@ TEST_F(MonthMaskToday, AsksTheLocalClock)
 {
     const long lateInMarch = 1711924200; // 2024-03-31 22:30:00 UTC
     datetime::set_clock_for_tests([&] { return lateInMarch; }, [] { return 0L; });
-    EXPECT_TRUE(maskOf({EMonth::March}).IsTodayOn());
-    EXPECT_FALSE(maskOf({EMonth::April}).IsTodayOn());
+    EXPECT_TRUE(months({EMonth::March}).IsTodayOn());
+    EXPECT_FALSE(months({EMonth::April}).IsTodayOn());
     datetime::set_clock_for_tests([&] { return lateInMarch; }, [] { return 7200L; });
-    EXPECT_FALSE(maskOf({EMonth::March}).IsTodayOn());
-    EXPECT_TRUE(maskOf({EMonth::April}).IsTodayOn());
+    EXPECT_FALSE(months({EMonth::March}).IsTodayOn());
+    EXPECT_TRUE(months({EMonth::April}).IsTodayOn());
 }
 
 TEST(MonthMaskFailures, MasksOfUnequalLength)

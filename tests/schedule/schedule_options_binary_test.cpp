@@ -9,6 +9,7 @@
 #include "schedule_options_device.h"
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/stream_failures.h"
 
 using namespace zelplatform::model::structs;
 using namespace zelmodel_test;
@@ -19,24 +20,10 @@ namespace
 constexpr const char* readFailed = "ScheduleOptions: Failed to deserialize. ";
 constexpr const char* writeFailed = "ScheduleOptions: Failed to serialize. ";
 
-std::string bytesOf(const CScheduleOptions& options)
+template <class TSource>
+CScheduleOptions read(TSource&& source)
 {
-    io::mem_stream_tt device;
-    io::binary_stream_tt stream(device);
-    options.Serialize(stream);
-    return zelmodel_test::bytesOf(device);
-}
-
-CScheduleOptions read(io::io_dev_redirector_t& device)
-{
-    io::binary_stream_tt stream(device);
-    return CScheduleOptions::Unserialize(stream);
-}
-
-CScheduleOptions read(const std::string& bytes)
-{
-    io::mem_stream_tt device(crypto::sec_buffer_t(bytes.begin(), bytes.end()));
-    return read(device);
+    return readFrom<CScheduleOptions>(source);
 }
 
 /// The form of a text, with the two fields before its length.
@@ -50,16 +37,14 @@ std::string defaultFulls()
     return golden("ActiveFullOptions/default.xml") + golden("SyntheticFullOptions/default.xml");
 }
 
-std::string shortRead(unsigned long received, unsigned long expected)
+std::string refusedRead(unsigned long received, unsigned long expected)
 {
-    return std::string(readFailed) + "Failed to retrieve value from the binary stream: received less bytes (" +
-           std::to_string(received) + ") than expected (" + std::to_string(expected) + ").";
+    return readFailed + shortRead(received, expected);
 }
 
-std::string shortWrite(long written, unsigned long expected)
+std::string refusedWrite(long written, unsigned long expected)
 {
-    return std::string(writeFailed) + "Failed to write value to the binary stream: written less bytes (" +
-           std::to_string(written) + ") than expected (" + std::to_string(expected) + ").";
+    return writeFailed + shortWrite(written, expected);
 }
 
 } // namespace
@@ -130,10 +115,10 @@ TEST(CScheduleOptionsFailures, EveryCutOfTheBytes)
     const std::string bytes = bytesOf(CScheduleOptions());
     for (std::size_t size = 0; size < bytes.size(); ++size)
     {
-        const std::string expected = size < 1   ? shortRead(0, 1)
-                                     : size < 5 ? shortRead(size - 1, 4)
-                                     : size < 9 ? shortRead(size - 5, 4)
-                                                : shortRead(size - 9, bytes.size() - 9);
+        const std::string expected = size < 1   ? refusedRead(0, 1)
+                                     : size < 5 ? refusedRead(size - 1, 4)
+                                     : size < 9 ? refusedRead(size - 5, 4)
+                                                : refusedRead(size - 9, bytes.size() - 9);
         const std::string cut = bytes.substr(0, size);
         ASSERT_EQ(expected, failureText([&] { read(cut); })) << size;
         CTextDevice unsized(cut);
@@ -149,12 +134,12 @@ TEST(CScheduleOptionsFailures, LyingLengthsAreNotBelieved)
     {
         const auto start = std::chrono::steady_clock::now();
         const std::string bytes = std::string(1, '\1') + fourBytes(0) + fourBytes(length) + "<Schedule ";
-        EXPECT_EQ(shortRead(10, length), failureText([&] { read(bytes); }));
+        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(bytes); }));
         CTextDevice unsized(bytes);
-        EXPECT_EQ(shortRead(10, length), failureText([&] { read(unsized); }));
+        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(unsized); }));
         EXPECT_LE(unsized.largestRead(), 65536UL);
         CSizedTextDevice sized(bytes);
-        EXPECT_EQ(shortRead(10, length), failureText([&] { read(sized); }));
+        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(sized); }));
         EXPECT_LE(sized.largestRead(), 65536UL);
         EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
     }
@@ -190,13 +175,13 @@ TEST(CScheduleOptionsFailures, DevicesThatTakeTooLittle)
     {
         unsigned long room;
         std::string failure;
-    } rows[] = {{0, shortWrite(0, 1)},
-                {1, shortWrite(0, 4)},
-                {4, shortWrite(3, 4)},
-                {7, shortWrite(2, 4)},
-                {9, shortWrite(0, size)},
-                {109, shortWrite(100, size)},
-                {8 + size, shortWrite(static_cast<long>(size) - 1, size)}};
+    } rows[] = {{0, refusedWrite(0, 1)},
+                {1, refusedWrite(0, 4)},
+                {4, refusedWrite(3, 4)},
+                {7, refusedWrite(2, 4)},
+                {9, refusedWrite(0, size)},
+                {109, refusedWrite(100, size)},
+                {8 + size, refusedWrite(static_cast<long>(size) - 1, size)}};
     for (const auto& row : rows)
     {
         CTextDevice device("", row.room);
@@ -213,7 +198,7 @@ TEST(CScheduleOptionsFailures, BrokenDevices)
 {
     CBrokenDevice broken;
     io::binary_stream_tt stream(broken);
-    EXPECT_EQ(shortWrite(-1, 1), failureText([&] { CScheduleOptions().Serialize(stream); }));
+    EXPECT_EQ(refusedWrite(-1, 1), failureText([&] { CScheduleOptions().Serialize(stream); }));
     EXPECT_EQ(std::string(readFailed) +
                   "Failed to retrieve value from the binary stream: received less bytes (-1) than expected (1).",
               failureText([&] { CScheduleOptions::Unserialize(stream); }));

@@ -81,4 +81,28 @@ inline std::string bytesOf(const io::mem_stream_tt& device)
     return std::string(device.buffer().begin(), device.buffer().end());
 }
 
+/// The binary form of the options.
+template <class TOptions>
+std::string bytesOf(const TOptions& options)
+{
+    io::mem_stream_tt device;
+    io::binary_stream_tt stream(device);
+    options.Serialize(stream);
+    return bytesOf(device);
+}
+
+template <class TOptions>
+TOptions readFrom(io::io_dev_redirector_t& device)
+{
+    io::binary_stream_tt stream(device);
+    return TOptions::Unserialize(stream);
+}
+
+template <class TOptions>
+TOptions readFrom(const std::string& bytes)
+{
+    io::mem_stream_tt device(crypto::sec_buffer_t(bytes.begin(), bytes.end()));
+    return readFrom<TOptions>(device);
+}
+
 } // namespace zelmodel_test

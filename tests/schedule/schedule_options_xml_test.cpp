@@ -10,6 +10,7 @@
 
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::EDayOfWeek;
@@ -17,6 +18,8 @@ using datetime::EMonth;
 using xmlpp::CXmlDocument;
 using zelmodel_test::failureText;
 using zelmodel_test::golden;
+using zelmodel_test::months;
+using zelmodel_test::textOf;
 
 namespace
 {
@@ -28,10 +31,8 @@ CScheduleOptions weeklyWithFulls()
     workDays.SetDay(EDayOfWeek::Saturday, false);
     workDays.SetDay(EDayOfWeek::Sunday, false);
     options.GetJobStartOptions().SetWeekly(22, 5, workDays);
-    CMonthMask quarters(false);
-    for (const auto month : {EMonth::January, EMonth::April, EMonth::July, EMonth::October})
-        quarters.SetMonth(month, true);
-    options.GetActiveFullOptions().SetMonthlyOnDay(CDayOfMonth(31), quarters);
+    options.GetActiveFullOptions().SetMonthlyOnDay(
+        CDayOfMonth(31), months({EMonth::January, EMonth::April, EMonth::July, EMonth::October}));
     options.GetSyntheticFullOptions().SetDefaultWeekly();
     return options;
 }
@@ -53,14 +54,6 @@ std::vector<SGolden> goldenOptions()
 {
     return {
         {"default", CScheduleOptions()}, {"weekly_with_fulls", weeklyWithFulls()}, {"periodically", everyFourHours()}};
-}
-
-std::string textOf(const CScheduleOptions& options)
-{
-    CXmlDocument document;
-    auto node = document.ToNode();
-    options.ToXml(node);
-    return document.Serialize();
 }
 
 struct SRefused

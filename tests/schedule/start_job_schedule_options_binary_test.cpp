@@ -8,6 +8,7 @@
 #include "schedule_options_device.h"
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/stream_failures.h"
 
 using namespace zelplatform::model::structs;
 using namespace zelmodel_test;
@@ -15,41 +16,15 @@ using namespace zelmodel_test;
 namespace
 {
 
-std::string bytesOf(const CStartJobScheduleOptions& options)
+template <class TSource>
+CStartJobScheduleOptions read(TSource&& source)
 {
-    io::mem_stream_tt device;
-    io::binary_stream_tt stream(device);
-    options.Serialize(stream);
-    return zelmodel_test::bytesOf(device);
-}
-
-CStartJobScheduleOptions read(io::io_dev_redirector_t& device)
-{
-    io::binary_stream_tt stream(device);
-    return CStartJobScheduleOptions::Unserialize(stream);
-}
-
-CStartJobScheduleOptions read(const std::string& bytes)
-{
-    io::mem_stream_tt device(crypto::sec_buffer_t(bytes.begin(), bytes.end()));
-    return read(device);
+    return readFrom<CStartJobScheduleOptions>(source);
 }
 
 std::string withLength(const std::string& text)
 {
     return fourBytes(text.size()) + text;
-}
-
-std::string shortRead(unsigned long received, unsigned long expected)
-{
-    return "Failed to retrieve value from the binary stream: received less bytes (" + std::to_string(received) +
-           ") than expected (" + std::to_string(expected) + ").";
-}
-
-std::string shortWrite(long written, unsigned long expected)
-{
-    return "Failed to write value to the binary stream: written less bytes (" + std::to_string(written) +
-           ") than expected (" + std::to_string(expected) + ").";
 }
 
 } // namespace

@@ -8,13 +8,16 @@
 
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::EDayOfWeek;
 using datetime::EMonth;
 using xmlpp::CXmlDocument;
+using zelmodel_test::days;
 using zelmodel_test::failureText;
 using zelmodel_test::golden;
+using zelmodel_test::months;
 
 namespace
 {
@@ -38,22 +41,6 @@ constexpr const char* winter =
 constexpr const char* noMonths =
     "<MonthMask January=\"false\" February=\"false\" March=\"false\" April=\"false\" May=\"false\" June=\"false\" "
     "July=\"false\" August=\"false\" September=\"false\" October=\"false\" November=\"false\" December=\"false\"/>";
-
-CWeekMask days(std::initializer_list<EDayOfWeek::type> on)
-{
-    CWeekMask mask(false);
-    for (const auto day : on)
-        mask.SetDay(day, true);
-    return mask;
-}
-
-CMonthMask months(std::initializer_list<EMonth::type> on)
-{
-    CMonthMask mask(false);
-    for (const auto month : on)
-        mask.SetMonth(month, true);
-    return mask;
-}
 
 /// Reads below the document's one root element.
 CStartJobScheduleOptions readBelowRoot(const std::string& text)

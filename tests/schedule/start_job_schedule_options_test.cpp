@@ -5,54 +5,30 @@
 #include <gtest/gtest.h>
 
 #include <zelmodel/structs/schedule/start_job_schedule_options.h>
-#include <zelplatform/xmlpp/xmlpp.h>
 
 #include "support/expect_failure.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::CDateTime;
 using datetime::EDayOfWeek;
 using datetime::EMonth;
+using zelmodel_test::at;
+using zelmodel_test::calendarOfType;
+using zelmodel_test::days;
 using zelmodel_test::failureText;
+using zelmodel_test::months;
+using zelmodel_test::notMonthly;
 
 namespace
 {
 
-constexpr const char* notMonthly =
-    "Failed to set week day number Week day number may be changed only for month schedule";
-
-CDateTime at(const char* date)
-{
-    return CDateTime::fromString(date, "%Y-%m-%d");
-}
-
-CWeekMask days(std::initializer_list<EDayOfWeek::type> on)
-{
-    CWeekMask mask(false);
-    for (const auto day : on)
-        mask.SetDay(day, true);
-    return mask;
-}
-
-CMonthMask months(std::initializer_list<EMonth::type> on)
-{
-    CMonthMask mask(false);
-    for (const auto month : on)
-        mask.SetMonth(month, true);
-    return mask;
-}
-
-/// The calendar as a document says it, of a type and with or without a time.
-CScheduleCalendar readCalendar(const std::string& type, bool withTime)
+/// A calendar with a time.
+CScheduleCalendar timed()
 {
     CScheduleCalendar calendar;
-    if (withTime)
-        calendar.SetTime(CScheduleTime(1, 0));
-    xmlpp::CXmlDocument document;
-    auto node = document.AddRootNode("Calendar");
-    calendar.ToXml(node);
-    node.SetAttribute("Type", type);
-    return CScheduleCalendar::FromXml(node);
+    calendar.SetTime(CScheduleTime(1, 0));
+    return calendar;
 }
 
 void expectDefault(const CStartJobScheduleOptions& options, bool enabled)
@@ -343,16 +319,16 @@ TEST(CStartJobScheduleOptionsFailures, WeekDayNumberOfACalendarThatIsNotMonthly)
 
 TEST(CStartJobScheduleOptionsFailures, CalendarsThatCannotBeEvaluated)
 {
-    const CStartJobScheduleOptions unknown(true, readCalendar("7", true));
+    const CStartJobScheduleOptions unknown(true, calendarOfType("7", timed()));
     EXPECT_EQ("ScheduleCalendar: Failed to check that date [03/06/2024] is on. Unsupported schedule type [7]",
               failureText([&] { (void)unknown.IsScheduledAt(at("2024-03-06")); }));
     EXPECT_EQ("CStartJobScheduleOptions: Failed to convert to log string. Unsupported schedule type [7]",
               failureText([&] { (void)unknown.ToLogStr(false); }));
-    const CStartJobScheduleOptions noPeriod(true, readCalendar("2", false));
+    const CStartJobScheduleOptions noPeriod(true, calendarOfType("2"));
     EXPECT_EQ(std::string("CStartJobScheduleOptions: Failed to convert to log string. ") +
                   std::bad_optional_access().what(),
               failureText([&] { (void)noPeriod.ToLogStr(false); }));
-    EXPECT_FALSE(CStartJobScheduleOptions(false, readCalendar("7", true)).IsScheduledAt(at("2024-03-06")));
+    EXPECT_FALSE(CStartJobScheduleOptions(false, calendarOfType("7", timed())).IsScheduledAt(at("2024-03-06")));
 }
 
 TEST(CStartJobScheduleOptionsQuirks, WithoutACalendarTheConstructorTakesTheCalendarsOwnDefault)

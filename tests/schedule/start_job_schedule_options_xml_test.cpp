@@ -9,6 +9,7 @@
 
 #include "support/expect_failure.h"
 #include "support/golden.h"
+#include "support/schedule_samples.h"
 
 using namespace zelplatform::model::structs;
 using datetime::EDayOfWeek;
@@ -16,6 +17,10 @@ using datetime::EMonth;
 using xmlpp::CXmlDocument;
 using zelmodel_test::failureText;
 using zelmodel_test::golden;
+using zelmodel_test::months;
+using zelmodel_test::textOf;
+using zelmodel_test::wholeWeek;
+using zelmodel_test::wholeYear;
 
 namespace
 {
@@ -23,20 +28,6 @@ namespace
 constexpr const char* readFailed = "CStartJobScheduleOptions: Failed to deserialize from Xml. ";
 constexpr const char* calendarFailed =
     "CStartJobScheduleOptions: Failed to deserialize from Xml. ScheduleCalendar: Failed to deserialize from Xml. ";
-constexpr const char* wholeWeek = "<WeekMask Monday=\"true\" Tuesday=\"true\" Wednesday=\"true\" Thursday=\"true\" "
-                                  "Friday=\"true\" Saturday=\"true\" Sunday=\"true\"/>";
-constexpr const char* wholeYear =
-    "<MonthMask January=\"true\" February=\"true\" March=\"true\" April=\"true\" May=\"true\" June=\"true\" "
-    "July=\"true\" August=\"true\" September=\"true\" October=\"true\" November=\"true\" December=\"true\"/>";
-
-std::string textOf(const CStartJobScheduleOptions& options)
-{
-    CXmlDocument document;
-    auto node = document.ToNode();
-    options.ToXml(node);
-    return document.Serialize();
-}
-
 CStartJobScheduleOptions read(const std::string& text)
 {
     return CStartJobScheduleOptions::FromXml(CXmlDocument::Unserialize(text).ToNode());
@@ -46,14 +37,6 @@ CStartJobScheduleOptions read(const std::string& text)
 std::string withAttributes(const std::string& attributes)
 {
     return "<Schedule " + attributes + ">" + wholeWeek + wholeYear + "<Time Hours=\"1\" Minutes=\"2\"/></Schedule>";
-}
-
-CMonthMask months(std::initializer_list<EMonth::type> on)
-{
-    CMonthMask mask(false);
-    for (const auto month : on)
-        mask.SetMonth(month, true);
-    return mask;
 }
 
 struct SGolden

@@ -8,21 +8,15 @@
 #include <zelplatform/datetime/clock.h>
 
 #include "support/expect_failure.h"
+#include "support/schedule_samples.h"
 
 using datetime::EDayOfWeek;
+using zelmodel_test::days;
 using zelmodel_test::failureText;
 using zelplatform::model::structs::CWeekMask;
 
 namespace
 {
-
-CWeekMask maskOf(std::initializer_list<EDayOfWeek::type> days)
-{
-    CWeekMask mask(false);
-    for (const auto day : days)
-        mask.SetDay(day, true);
-    return mask;
-}
 
 const auto NoSuchDay = static_cast<EDayOfWeek::type>(7);
 
@@ -39,7 +33,7 @@ TEST(WeekMaskValue, HasSevenFlagsSundayFirst)
     EXPECT_EQ(CWeekMask::GetNumberOfDays(), 7U);
     EXPECT_EQ(CWeekMask(true).GetMask(), std::vector<bool>(7, true));
     EXPECT_EQ(CWeekMask(false).GetMask(), std::vector<bool>(7, false));
-    EXPECT_EQ(maskOf({EDayOfWeek::Sunday, EDayOfWeek::Wednesday}).GetMask(),
+    EXPECT_EQ(days({EDayOfWeek::Sunday, EDayOfWeek::Wednesday}).GetMask(),
               (std::vector<bool>{true, false, false, true, false, false, false}));
 }
 
@@ -60,7 +54,7 @@ TEST(WeekMaskValue, SetsAndAsksEachDay)
 
 TEST(WeekMaskValue, ResetsAllFlags)
 {
-    CWeekMask mask = maskOf({EDayOfWeek::Friday});
+    CWeekMask mask = days({EDayOfWeek::Friday});
     mask.Reset(true);
     EXPECT_EQ(mask, CWeekMask(true));
     mask.Reset(false);
@@ -69,7 +63,7 @@ TEST(WeekMaskValue, ResetsAllFlags)
 
 TEST(WeekMaskValue, AsksForAllDays)
 {
-    const CWeekMask some = maskOf({EDayOfWeek::Monday});
+    const CWeekMask some = days({EDayOfWeek::Monday});
     EXPECT_TRUE(CWeekMask(true).IsAllDaysOn());
     EXPECT_TRUE(CWeekMask(true).IsAllDays(true));
     EXPECT_FALSE(CWeekMask(true).IsAllDaysOff());
@@ -90,22 +84,22 @@ TEST(WeekMaskValue, AsksForTheWorkingWeek)
     mask.SetDay(EDayOfWeek::Sunday, true);
     EXPECT_FALSE(mask.IsAllWeekdaysOn());
     EXPECT_TRUE(mask.IsAllDaysOn());
-    EXPECT_FALSE(maskOf({EDayOfWeek::Monday, EDayOfWeek::Friday}).IsAllWeekdaysOn());
+    EXPECT_FALSE(days({EDayOfWeek::Monday, EDayOfWeek::Friday}).IsAllWeekdaysOn());
     EXPECT_FALSE(CWeekMask(false).IsAllWeekdaysOn());
 }
 
 TEST(WeekMaskValue, ListsDaysSundayFirst)
 {
-    EXPECT_EQ(maskOf({EDayOfWeek::Saturday, EDayOfWeek::Sunday, EDayOfWeek::Tuesday}).ToWeekDays(),
+    EXPECT_EQ(days({EDayOfWeek::Saturday, EDayOfWeek::Sunday, EDayOfWeek::Tuesday}).ToWeekDays(),
               (std::vector<EDayOfWeek::type>{EDayOfWeek::Sunday, EDayOfWeek::Tuesday, EDayOfWeek::Saturday}));
     EXPECT_TRUE(CWeekMask(false).ToWeekDays().empty());
 }
 
 TEST(WeekMaskValue, ComparesFlags)
 {
-    EXPECT_TRUE(maskOf({EDayOfWeek::Monday}) == maskOf({EDayOfWeek::Monday}));
-    EXPECT_FALSE(maskOf({EDayOfWeek::Monday}) != maskOf({EDayOfWeek::Monday}));
-    EXPECT_TRUE(maskOf({EDayOfWeek::Monday}) != maskOf({EDayOfWeek::Tuesday}));
+    EXPECT_TRUE(days({EDayOfWeek::Monday}) == days({EDayOfWeek::Monday}));
+    EXPECT_FALSE(days({EDayOfWeek::Monday}) != days({EDayOfWeek::Monday}));
+    EXPECT_TRUE(days({EDayOfWeek::Monday}) != days({EDayOfWeek::Tuesday}));
     EXPECT_TRUE(CWeekMask(std::vector<bool>(6, true)) != CWeekMask(true));
 }
 
@@ -113,11 +107,11 @@ TEST_F(WeekMaskToday, AsksTheLocalClock)
 {
     const long wednesdayLate = 1709767800; // 2024-03-06 23:30:00 UTC
     datetime::set_clock_for_tests([&] { return wednesdayLate; }, [] { return 0L; });
-    EXPECT_TRUE(maskOf({EDayOfWeek::Wednesday}).IsTodayOn());
-    EXPECT_FALSE(maskOf({EDayOfWeek::Thursday}).IsTodayOn());
+    EXPECT_TRUE(days({EDayOfWeek::Wednesday}).IsTodayOn());
+    EXPECT_FALSE(days({EDayOfWeek::Thursday}).IsTodayOn());
     datetime::set_clock_for_tests([&] { return wednesdayLate; }, [] { return 7200L; });
-    EXPECT_FALSE(maskOf({EDayOfWeek::Wednesday}).IsTodayOn());
-    EXPECT_TRUE(maskOf({EDayOfWeek::Thursday}).IsTodayOn());
+    EXPECT_FALSE(days({EDayOfWeek::Wednesday}).IsTodayOn());
+    EXPECT_TRUE(days({EDayOfWeek::Thursday}).IsTodayOn());
 }
 
 TEST(WeekMaskFailures, AskingForADayThatDoesNotExist)

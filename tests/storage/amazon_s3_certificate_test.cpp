@@ -1,30 +1,32 @@
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <support/expect_failure.h>
+#include <support/made_certificates.h>
 #include <zelmodel/repositories.h>
 #include <zelplatform/xmlpp/xmlpp.h>
-
-#include "openssl_command.h"
 
 namespace
 {
 
 using namespace zelplatform::model::structs;
 using zelmodel_test::failureText;
-using zelmodel_test::fingerprintByCommand;
-using zelmodel_test::freshCertificate;
+using zelmodel_test::replaced;
 
 const std::string begin = "-----BEGIN CERTIFICATE-----";
 const std::string end = "-----END CERTIFICATE-----";
 
-std::string replaced(std::string text, const std::string& what, const std::string& with)
+struct Made
 {
-    for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size()))
-        text.replace(at, what.size(), with);
-    return text;
+    std::string pem;
+    std::string fingerprint;
+};
+
+Made freshCertificate(const std::string& name, const zelmodel_test::KeyPtr& key = zelmodel_test::makeEd25519Key())
+{
+    const auto certificate = zelmodel_test::makeCertificate(key.get(), name);
+    return {zelmodel_test::pemOf(certificate.get()), zelmodel_test::sha256(zelmodel_test::derOf(certificate.get()))};
 }
 
 /// Reads an endpoint with such attributes after "ApiEndpoint" and "ArnString".
@@ -44,23 +46,13 @@ std::string certificateAttribute(const std::string& pem)
 class AmazonS3Certificate : public testing::Test
 {
 protected:
-    static void SetUpTestSuite()
+    static const Made& certificate()
     {
-        pem() = freshCertificate("s3.example.com");
-        fingerprint() = fingerprintByCommand(pem());
+        static const Made made = freshCertificate("s3.example.com");
+        return made;
     }
-
-    static std::string& pem()
-    {
-        static std::string text;
-        return text;
-    }
-
-    static std::string& fingerprint()
-    {
-        static std::string text;
-        return text;
-    }
+    static const std::string& pem() { return certificate().pem; }
+    static const std::string& fingerprint() { return certificate().fingerprint; }
 
     static std::string refusal(const std::string& attributes)
     {
@@ -85,13 +77,10 @@ TEST_F(AmazonS3Certificate, IsKeptAsItsFingerprint)
 
 TEST_F(AmazonS3Certificate, KindsOfKeysMakeNoDifference)
 {
-    const std::vector<std::string> keys[] = {{"rsa:2048"},
-                                             {"ec", "-pkeyopt", "ec_paramgen_curve:prime256v1"},
-                                             {"ed25519", "-addext", "subjectAltName=DNS:s3.example.com"}};
-    for (const auto& key : keys)
+    for (const auto makeKey : {zelmodel_test::makeRsaKey, zelmodel_test::makeEcKey, zelmodel_test::makeEd25519Key})
     {
-        const std::string text = freshCertificate("s3.example.com", key);
-        EXPECT_EQ(fingerprintByCommand(text), readEndpoint(certificateAttribute(text)).fingerprint) << key.front();
+        const auto made = freshCertificate("s3.example.com", makeKey());
+        EXPECT_EQ(made.fingerprint, readEndpoint(certificateAttribute(made.pem)).fingerprint);
     }
 }
 
@@ -107,7 +96,7 @@ TEST_F(AmazonS3Certificate, LineBreaksMayHaveChanged)
 
 TEST_F(AmazonS3Certificate, TextAroundItIsPassedOver)
 {
-    const std::string other = freshCertificate("other.example.com");
+    const std::string other = freshCertificate("other.example.com").pem;
     for (const std::string& text :
          {"subject=CN = s3.example.com\n" + pem(), pem() + "that was it", pem() + other, pem() + begin + "\njunk"})
     {

@@ -3,29 +3,23 @@
 
 #include <gtest/gtest.h>
 
-#include "describe/document.h"
 #include "tree.h"
 
 namespace
 {
 
-using describe::Node;
 using zelmodel_test::at;
 using zelmodel_test::namesOf;
-
-Node tree(const std::string& text)
-{
-    return describe::Document(text).describe();
-}
+using zelmodel_test::treeOf;
 
 TEST(GfsTree, TellsTheRules)
 {
-    const auto policy = tree("<GfsPolicy IsEnabled=\"true\">\n"
-                             "<Weekly IsEnabled=\"true\" KeepBackupsForNumberOfWeeks=\"4\"\n"
-                             " BeginTimeUtc=\"03/31/2024 22:15:00\" DesiredTime=\"5\"/>\n"
-                             "<Monthly IsEnabled=\"false\" KeepBackupsForNumberOfMonths=\"1\"\n"
-                             " BeginTimeUtc=\"01/01/0001 00:00:00\" DesiredTime=\"-1\"/>\n"
-                             "</GfsPolicy>");
+    const auto policy = treeOf("<GfsPolicy IsEnabled=\"true\">\n"
+                               "<Weekly IsEnabled=\"true\" KeepBackupsForNumberOfWeeks=\"4\"\n"
+                               " BeginTimeUtc=\"03/31/2024 22:15:00\" DesiredTime=\"5\"/>\n"
+                               "<Monthly IsEnabled=\"false\" KeepBackupsForNumberOfMonths=\"1\"\n"
+                               " BeginTimeUtc=\"01/01/0001 00:00:00\" DesiredTime=\"-1\"/>\n"
+                               "</GfsPolicy>");
     EXPECT_EQ(namesOf(policy), (std::vector<std::string>{"isEnabled", "weekly", "monthly", "yearly"}));
     EXPECT_EQ(policy.words, "on");
     EXPECT_EQ(at(policy, "weekly").words,
@@ -42,8 +36,9 @@ TEST(GfsTree, TellsTheRules)
 
 TEST(GfsTree, ReadsTheLongNames)
 {
-    const auto policy = tree("<GfsPolicy IsEnabled=\"false\">\n<GfsYearlyPolicy IsEnabled=\"true\" NumberOfYears=\"7\" "
-                             "BeginTimeUtc=\"soon\" DesiredTime=\"12\"/></GfsPolicy>");
+    const auto policy =
+        treeOf("<GfsPolicy IsEnabled=\"false\">\n<GfsYearlyPolicy IsEnabled=\"true\" NumberOfYears=\"7\" "
+               "BeginTimeUtc=\"soon\" DesiredTime=\"12\"/></GfsPolicy>");
     EXPECT_EQ(policy.words, "off, its rules are not in force");
     EXPECT_EQ(at(policy, "yearly").words, "keeps 7 yearly restore points, effective at once, slot 12");
     EXPECT_EQ(at(policy, "yearly/keepCount").line, 2);
@@ -51,8 +46,8 @@ TEST(GfsTree, ReadsTheLongNames)
 
 TEST(GfsTree, WithoutRules)
 {
-    EXPECT_EQ(tree("<GfsPolicy IsEnabled=\"true\"/>").words, "on, but without rules");
-    EXPECT_EQ(tree("<GfsPolicy IsEnabled=\"false\"/>").words, "off");
+    EXPECT_EQ(treeOf("<GfsPolicy IsEnabled=\"true\"/>").words, "on, but without rules");
+    EXPECT_EQ(treeOf("<GfsPolicy IsEnabled=\"false\"/>").words, "off");
 }
 
 } // namespace

@@ -3,20 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "describe/document.h"
 #include "tree.h"
 
 namespace
 {
 
-using describe::Node;
 using zelmodel_test::at;
 using zelmodel_test::namesOf;
-
-Node tree(const std::string& text)
-{
-    return describe::Document(text).describe();
-}
+using zelmodel_test::treeOf;
 
 /// The job that both forms can tell.
 constexpr const char* AgentForm = R"(<JobOptions
@@ -62,8 +56,8 @@ TEST(JobOptionsTree, HoldsEveryFieldUnderItsName)
                                          "productSpecific",
                                          "schedule",
                                          "notCarried"};
-    EXPECT_EQ(namesOf(tree(AgentForm)), names);
-    EXPECT_EQ(namesOf(tree(ServerForm)), names);
+    EXPECT_EQ(namesOf(treeOf(AgentForm)), names);
+    EXPECT_EQ(namesOf(treeOf(ServerForm)), names);
 }
 
 TEST(JobOptionsTree, BothFormsTellTheSame)
@@ -76,8 +70,8 @@ TEST(JobOptionsTree, BothFormsTellTheSame)
         int agentLine;
         int serverLine;
     };
-    const auto agent = tree(AgentForm);
-    const auto server = tree(ServerForm);
+    const auto agent = treeOf(AgentForm);
+    const auto server = treeOf(ServerForm);
     for (const auto& expected : {Case{"compression", "Zstd9", "Zstd9, level 4 of 0 to 4", 2, 2},
                                  Case{"blockSize", "KbBlockSize256", "256 KB", 3, 3},
                                  Case{"retentionType", "Cycles", "keeps 14 restore points", 4, 4},
@@ -98,7 +92,7 @@ TEST(JobOptionsTree, BothFormsTellTheSame)
 
 TEST(JobOptionsTree, SaysWhatTheManagingServersFormCannotCarry)
 {
-    const auto server = tree(ServerForm);
+    const auto server = treeOf(ServerForm);
     EXPECT_EQ(at(server, "schedule").words,
               "disabled: this form carries no schedule, so the job does not start by itself");
     EXPECT_EQ(at(server, "notCarried").label, "Not in this form");
@@ -110,12 +104,12 @@ TEST(JobOptionsTree, SaysWhatTheManagingServersFormCannotCarry)
         EXPECT_TRUE(at(server, name).isDetail) << name;
         EXPECT_EQ(at(server, name).line, 0) << name;
     }
-    EXPECT_EQ(at(tree(AgentForm), "notCarried").label, "Only in this form");
+    EXPECT_EQ(at(treeOf(AgentForm), "notCarried").label, "Only in this form");
 }
 
 TEST(JobOptionsTree, DefaultsHaveNoLine)
 {
-    const auto job = tree("<JobOptions/>");
+    const auto job = treeOf("<JobOptions/>");
     struct Case
     {
         const char* name;
@@ -140,14 +134,14 @@ TEST(JobOptionsTree, DefaultsHaveNoLine)
 
 TEST(JobOptionsTree, EmptyCompressionIsADefault)
 {
-    const auto job = tree("<JobOptions Compression=\"\" BlockSize=\"\"/>");
+    const auto job = treeOf("<JobOptions Compression=\"\" BlockSize=\"\"/>");
     EXPECT_EQ(at(job, "compression").line, 0);
     EXPECT_EQ(at(job, "blockSize").line, 0);
 }
 
 TEST(JobOptionsTree, TellsScriptsAndRetries)
 {
-    const auto job = tree(R"(<JobOptions PrefreezeCommand="/a b" PostthawCommand="/c"
+    const auto job = treeOf(R"(<JobOptions PrefreezeCommand="/a b" PostthawCommand="/c"
  PrejobCommand="/d" PostjobCommand="/e" RetryCount="1" RetryTimeOutMs="90000"
  IgnoreFreezeThawFailures="true" FreezeThawScriptsTimeout="-5" ProductSpecific="x=1"/>)");
     EXPECT_EQ(at(job, "preFreezeCommand").words, "/a b");
@@ -189,7 +183,7 @@ TEST(Field, IsToldInWords)
         FieldCase{"IndexExcept=\"/a\"", "indexing", "all but these folders: /a"}};
     for (const auto& expected : cases)
     {
-        const auto job = tree(std::string("<JobOptions ") + expected.attributes + "/>");
+        const auto job = treeOf(std::string("<JobOptions ") + expected.attributes + "/>");
         EXPECT_EQ(at(job, expected.name).words, expected.words) << expected.attributes;
         EXPECT_EQ(at(job, expected.name).line, 1) << expected.attributes;
     }
@@ -198,7 +192,7 @@ TEST(Field, IsToldInWords)
 TEST(JobOptionsTree, TellsIndexingOfTheElement)
 {
     const auto job =
-        tree("<JobOptions IndexAll=\"true\">\n<Indexing\nType=\"IndexExcept\"\nFolders=\"/scratch\"/></JobOptions>");
+        treeOf("<JobOptions IndexAll=\"true\">\n<Indexing\nType=\"IndexExcept\"\nFolders=\"/scratch\"/></JobOptions>");
     EXPECT_EQ(at(job, "indexing").words, "all but these folders: /scratch");
     EXPECT_EQ(at(job, "indexing").line, 2);
     EXPECT_EQ(at(job, "indexing/type").value, "IndexExcept");

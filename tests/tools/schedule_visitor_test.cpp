@@ -11,10 +11,10 @@ namespace
 
 using datetime::EDayOfWeek;
 using datetime::EMonth;
-using describe::Node;
 using describe::tellCalendar;
 using zelmodel_test::at;
 using zelmodel_test::namesOf;
+using zelmodel_test::treeOf;
 using zelplatform::model::structs::CDayOfMonth;
 using zelplatform::model::structs::CMonthMask;
 using zelplatform::model::structs::CScheduleCalendar;
@@ -26,11 +26,6 @@ constexpr const char* AllDays =
     R"(<WeekMask Monday="1" Tuesday="1" Wednesday="1" Thursday="1" Friday="1" Saturday="1" Sunday="1"/>)";
 constexpr const char* AllMonths =
     R"(<MonthMask January="1" February="1" March="1" April="1" May="1" June="1" July="1" August="1" September="1" October="1" November="1" December="1"/>)";
-
-Node tree(const std::string& text)
-{
-    return describe::Document(text).describe();
-}
 
 CScheduleCalendar weekly(const std::vector<std::string>& days, const std::optional<CScheduleTime>& time)
 {
@@ -95,8 +90,8 @@ TEST(TellCalendar, RareDaysDoCome)
 TEST(ScheduleTree, TellsAnUnknownKindWithoutFailing)
 {
     const auto root =
-        tree(std::string(R"(<Schedule Version="3" IsEnabled="true" WeekDayNumber="Every" DayOfMonth="0" Type="7">)") +
-             AllDays + AllMonths + "</Schedule>");
+        treeOf(std::string(R"(<Schedule Version="3" IsEnabled="true" WeekDayNumber="Every" DayOfMonth="0" Type="7">)") +
+               AllDays + AllMonths + "</Schedule>");
     EXPECT_EQ(at(root, "jobStart").words, "starts cannot be evaluated: Unsupported schedule type [7]");
     EXPECT_EQ(at(root, "jobStart/scheduleType").value, "7");
     EXPECT_EQ(at(root, "jobStart/scheduleType").words, "of an unknown kind");
@@ -105,9 +100,9 @@ TEST(ScheduleTree, TellsAnUnknownKindWithoutFailing)
 TEST(ScheduleTree, HoldsEveryFieldWithItsLine)
 {
     const auto root =
-        tree(std::string("<ScheduleOptions>\n<Schedule Version=\"3\"\nIsEnabled=\"true\"\n"
-                         "WeekDayNumber=\"Every\"\nDayOfMonth=\"15\"\nType=\"1\">\n") +
-             AllDays + "\n" + AllMonths + "\n<Time Hours=\"22\" Minutes=\"30\"/></Schedule></ScheduleOptions>");
+        treeOf(std::string("<ScheduleOptions>\n<Schedule Version=\"3\"\nIsEnabled=\"true\"\n"
+                           "WeekDayNumber=\"Every\"\nDayOfMonth=\"15\"\nType=\"1\">\n") +
+               AllDays + "\n" + AllMonths + "\n<Time Hours=\"22\" Minutes=\"30\"/></Schedule></ScheduleOptions>");
     EXPECT_EQ(namesOf(root), (std::vector<std::string>{"jobStart", "activeFull", "syntheticFull", "backupWindow"}));
     const auto& start = at(root, "jobStart");
     EXPECT_EQ(namesOf(start), (std::vector<std::string>{"isEnabled", "scheduleType", "time", "weekMask", "monthMask",
@@ -138,8 +133,8 @@ TEST(ScheduleTree, HoldsEveryFieldWithItsLine)
 
 TEST(ScheduleTree, FlagOfAnOlderLayoutStandsOnTheParent)
 {
-    const auto root = tree(std::string("<JobOptions\nSchedule=\"true\">\n<Schedule Hours=\"20\"\nMinutes=\"0\">") +
-                           AllDays + "</Schedule></JobOptions>");
+    const auto root = treeOf(std::string("<JobOptions\nSchedule=\"true\">\n<Schedule Hours=\"20\"\nMinutes=\"0\">") +
+                             AllDays + "</Schedule></JobOptions>");
     EXPECT_EQ(at(root, "schedule/jobStart").words, "starts Every day at 20:00");
     EXPECT_EQ(at(root, "schedule/jobStart/isEnabled").line, 2);
     EXPECT_EQ(at(root, "schedule/jobStart/time").line, 3);
@@ -148,9 +143,9 @@ TEST(ScheduleTree, FlagOfAnOlderLayoutStandsOnTheParent)
 TEST(ScheduleTree, DisabledOptionsSayWhatTheyAreSetTo)
 {
     const auto root =
-        tree(std::string("<ScheduleOptions><ActiveFullOptions IsEnabled=\"false\" WeekDayNumber=\"Every\" "
-                         "DayOfMonth=\"32\" Type=\"1\">") +
-             AllDays + AllMonths + "</ActiveFullOptions></ScheduleOptions>");
+        treeOf(std::string("<ScheduleOptions><ActiveFullOptions IsEnabled=\"false\" WeekDayNumber=\"Every\" "
+                           "DayOfMonth=\"32\" Type=\"1\">") +
+               AllDays + AllMonths + "</ActiveFullOptions></ScheduleOptions>");
     EXPECT_EQ(at(root, "jobStart").words, "disabled");
     EXPECT_EQ(at(root, "activeFull").words, "disabled, set to Every last day of every month");
     EXPECT_EQ(at(root, "activeFull/dayOfMonth").words, "the last");
@@ -161,12 +156,12 @@ TEST(ScheduleTree, DisabledOptionsSayWhatTheyAreSetTo)
 TEST(ScheduleTree, PartsWithoutARootAreRead)
 {
     const auto root =
-        tree(std::string("<Schedule Version=\"3\" IsEnabled=\"true\" WeekDayNumber=\"Every\" DayOfMonth=\"0\" "
-                         "Type=\"3\">") +
-             AllDays + AllMonths +
-             "</Schedule><SyntheticFullOptions IsEnabled=\"true\" "
-             "WeekDayNumber=\"Every\" DayOfMonth=\"1\" Type=\"1\">" +
-             AllDays + AllMonths + "</SyntheticFullOptions>");
+        treeOf(std::string("<Schedule Version=\"3\" IsEnabled=\"true\" WeekDayNumber=\"Every\" DayOfMonth=\"0\" "
+                           "Type=\"3\">") +
+               AllDays + AllMonths +
+               "</Schedule><SyntheticFullOptions IsEnabled=\"true\" "
+               "WeekDayNumber=\"Every\" DayOfMonth=\"1\" Type=\"1\">" +
+               AllDays + AllMonths + "</SyntheticFullOptions>");
     EXPECT_EQ(at(root, "jobStart").words, "starts Continuously");
     EXPECT_EQ(at(root, "syntheticFull").words, "Every 1 day of every month");
 }

@@ -3,25 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include "describe/document.h"
 #include "tree.h"
 
 namespace
 {
 
-using describe::Node;
 using zelmodel_test::at;
 using zelmodel_test::namesOf;
-
-Node tree(const std::string& text)
-{
-    return describe::Document(text).describe();
-}
+using zelmodel_test::treeOf;
 
 TEST(WindowTree, TellsTheWeekFromMonday)
 {
-    const auto window = tree("<ScheduleWindow Minutes=\"90\"\nKind=\"1\"><Days>\n<Monday Intervals=\"08-17, 20-24\"/>\n"
-                             "<Tuesday Intervals=\"00-24\"/></Days></ScheduleWindow>");
+    const auto window =
+        treeOf("<ScheduleWindow Minutes=\"90\"\nKind=\"1\"><Days>\n<Monday Intervals=\"08-17, 20-24\"/>\n"
+               "<Tuesday Intervals=\"00-24\"/></Days></ScheduleWindow>");
     EXPECT_EQ(namesOf(window), (std::vector<std::string>{"monday", "tuesday", "wednesday", "thursday", "friday",
                                                          "saturday", "sunday", "kind", "hourlyOffsetMinutes"}));
     EXPECT_EQ(window.words, "closed except in the hours that the document lists");
@@ -41,8 +36,8 @@ TEST(WindowTree, TellsTheWeekFromMonday)
 
 TEST(WindowTree, ListedHoursOfTheOpenKindAreClosed)
 {
-    const auto window = tree("<ScheduleWindow Minutes=\"18446744073709551316\" Kind=\"0\"><Days>"
-                             "<Friday Intervals=\"08-17\"/><Saturday Intervals=\"00-24\"/></Days></ScheduleWindow>");
+    const auto window = treeOf("<ScheduleWindow Minutes=\"18446744073709551316\" Kind=\"0\"><Days>"
+                               "<Friday Intervals=\"08-17\"/><Saturday Intervals=\"00-24\"/></Days></ScheduleWindow>");
     EXPECT_EQ(window.words, "open except in the hours that the document lists");
     EXPECT_EQ(at(window, "friday").words, "open 00:00-08:00, 17:00-24:00");
     EXPECT_EQ(at(window, "saturday").words, "closed");

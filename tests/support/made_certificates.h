@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -68,7 +69,9 @@ inline X509Ptr makeCertificate(EVP_PKEY* key, const std::string& name)
     require(ASN1_INTEGER_set(X509_get_serialNumber(x509), 1) == 1);
     require(X509_gmtime_adj(X509_getm_notBefore(x509), 0) != nullptr);
     require(X509_gmtime_adj(X509_getm_notAfter(x509), 3600) != nullptr);
-    require(X509_sign(x509, key, EVP_sha256()) != 0);
+    // The one kind of key that chooses the digest itself.
+    const auto* const digest = EVP_PKEY_is_a(key, "ED25519") == 1 ? nullptr : EVP_sha256();
+    require(X509_sign(x509, key, digest) != 0);
     return certificate;
 }
 
@@ -80,6 +83,22 @@ inline std::string pemOf(X509* certificate)
 inline std::string derOf(X509* certificate)
 {
     return writtenText([&](BIO* bio) { return i2d_X509_bio(bio, certificate); });
+}
+
+/// The SHA-256 of the bytes in upper-case hexadecimal digits: of a DER form the certificate's fingerprint.
+inline std::string sha256(const std::string& bytes)
+{
+    unsigned char digest[EVP_MAX_MD_SIZE];
+    unsigned size = 0;
+    require(EVP_Digest(bytes.data(), bytes.size(), digest, &size, EVP_sha256(), nullptr) == 1);
+    std::string text;
+    for (unsigned i = 0; i < size; ++i)
+    {
+        char digits[3];
+        std::snprintf(digits, sizeof(digits), "%02X", digest[i]);
+        text += digits;
+    }
+    return text;
 }
 
 /// The key in the form for all kinds of keys.
