@@ -58,8 +58,8 @@ struct SGfsPolicyInfoBase
     void toXml(xmlpp::CXmlNode& policyNode, bool isShortNames) const;
 
     /// Reads the rule's element below the "GfsPolicy" node. A begin time that is no date is logged and replaced by the
-    /// default; "DesiredTime" is cut to 32 bits. Everything else that is missing or wrong throws "Unable to parse [%1].
-    /// ...".
+    /// default; "DesiredTime" is cut to 32 bits. Everything else that is missing or wrong throws
+    /// "Unable to parse [%1]. ...".
     static SGfsPolicyInfoBase fromXml(const xmlpp::CXmlNode& policyNode, bool isShortNames);
 
     /// The rule's element name in the variant.

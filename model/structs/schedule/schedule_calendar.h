@@ -121,8 +121,8 @@ public:
     /// duration, on purpose.
     std::string ToLogStr(bool shortNames) const;
 
-    /// Writes attributes and children into the owner's element. Throws "ScheduleCalendar: Failed to serialize to Xml.
-    /// ...".
+    /// Writes attributes and children into the owner's element. Throws
+    /// "ScheduleCalendar: Failed to serialize to Xml. ...".
     void ToXml(xmlpp::CXmlNode& node) const;
 
     /// Reads what ToXml writes and the older form without "Type", without any check of what the fields mean together.

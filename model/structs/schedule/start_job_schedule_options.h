@@ -88,8 +88,8 @@ public:
     void ToXml(xmlpp::CXmlNode& parent) const;
 
     /// Reads the child "Schedule" in the current layout (versions 0 and 3) or an older one (no version, 1 and 2); a
-    /// parent without the child gives the default. Throws "CStartJobScheduleOptions: Failed to deserialize from Xml.
-    /// ...".
+    /// parent without the child gives the default. Throws
+    /// "CStartJobScheduleOptions: Failed to deserialize from Xml. ...".
     static CStartJobScheduleOptions FromXml(const xmlpp::CXmlNode& parent);
 
     /// Writes a 4-byte length and the XML text with "Schedule" at its top.
