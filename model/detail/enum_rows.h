@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include <zelplatform/util/text.h>
+
 namespace zelplatform::model::detail
 {
 
@@ -48,24 +50,6 @@ constexpr const EnumRow<TEnum>* firstRow(const EnumRows<TEnum, N>& rows, const T
     return firstRowOf(rows, isMatch, std::make_index_sequence<N>());
 }
 
-constexpr char toLowerAscii(char c) noexcept
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// Compares from the end: the names of an enumeration begin alike rather than end alike.
-constexpr bool equalsIgnoringCase(std::string_view a, std::string_view b) noexcept
-{
-    if (a.size() != b.size())
-        return false;
-    for (auto i = a.size(); i > 0; --i)
-    {
-        if (a[i - 1] != b[i - 1] && toLowerAscii(a[i - 1]) != toLowerAscii(b[i - 1]))
-            return false;
-    }
-    return true;
-}
-
 /// The text of a value, or nothing when it has none. Each conversion throws its own message then.
 template <class TEnum, std::size_t N>
 const std::string_view* findText(const EnumRows<TEnum, N>& rows, TEnum value) noexcept
@@ -75,7 +59,8 @@ const std::string_view* findText(const EnumRows<TEnum, N>& rows, TEnum value) no
     return row != nullptr ? &row->text : nullptr;
 }
 
-/// The value of a text compared exactly, or nothing. The last letters are compared first, see equalsIgnoringCase.
+/// The value of a text compared exactly, or nothing. The last letters are compared first: the names of an enumeration
+/// begin alike rather than end alike.
 template <class TEnum, std::size_t N>
 const TEnum* findValue(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
 {
@@ -90,8 +75,9 @@ const TEnum* findValue(const EnumRows<TEnum, N>& rows, std::string_view text) no
 template <class TEnum, std::size_t N>
 const TEnum* findValueIgnoringCase(const EnumRows<TEnum, N>& rows, std::string_view text) noexcept
 {
-    const auto* row = firstRow(
-        rows, [&](const auto& each) { return equalsIgnoringCase(each.text, text) && each.use != ERowUse::WriteOnly; });
+    const auto* row = firstRow(rows, [&](const auto& each) {
+        return util::str_is_equal_nocase(each.text, text) && each.use != ERowUse::WriteOnly;
+    });
     return row != nullptr ? &row->value : nullptr;
 }
 

@@ -9,11 +9,6 @@ namespace util
 namespace
 {
 
-char lower(char c) noexcept
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 char upper(char c) noexcept
 {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -46,7 +41,7 @@ std::string detail::formatText(std::string_view format, const std::string_view* 
 
 std::string tolower(std::string text)
 {
-    std::transform(text.begin(), text.end(), text.begin(), lower);
+    std::transform(text.begin(), text.end(), text.begin(), detail::toLowerAscii);
     return text;
 }
 
@@ -54,12 +49,6 @@ std::string toupper(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(), upper);
     return text;
-}
-
-bool str_is_equal_nocase(std::string_view a, std::string_view b) noexcept
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return x == y || lower(x) == lower(y); });
 }
 
 std::string str_trim(std::string_view text)

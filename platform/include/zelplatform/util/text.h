@@ -15,6 +15,11 @@ namespace detail
 
 ZELPLATFORM_API std::string formatText(std::string_view format, const std::string_view* arguments, std::size_t count);
 
+constexpr char toLowerAscii(char c) noexcept
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 } // namespace detail
 
 /// Replaces "%1" to "%9" by the arguments, in one pass: inserted text is not looked at again. A placeholder without its
@@ -33,8 +38,19 @@ ZELPLATFORM_API std::string tolower(std::string text);
 /// The text with its ASCII letters in upper case; all other bytes stay.
 ZELPLATFORM_API std::string toupper(std::string text);
 
-/// Whether the texts are equal but for the case of ASCII letters.
-ZELPLATFORM_API bool str_is_equal_nocase(std::string_view a, std::string_view b) noexcept;
+/// Whether the texts are equal but for the case of ASCII letters. Compares from the end: names of one family begin
+/// alike rather than end alike. Inline, for look-ups in tables.
+constexpr bool str_is_equal_nocase(std::string_view a, std::string_view b) noexcept
+{
+    if (a.size() != b.size())
+        return false;
+    for (auto i = a.size(); i > 0; --i)
+    {
+        if (a[i - 1] != b[i - 1] && detail::toLowerAscii(a[i - 1]) != detail::toLowerAscii(b[i - 1]))
+            return false;
+    }
+    return true;
+}
 
 /// The text without blank, tab, CR, LF, VT and FF at its ends.
 ZELPLATFORM_API std::string str_trim(std::string_view text);
