@@ -175,8 +175,9 @@ INSTANTIATE_TEST_SUITE_P(
                                                   "  Restore point  b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604\n"},
                     ShowCase{"job-state.xml", "State of a backup job\n"
                                               "  Object storage mode  number 3\n"},
-                    ShowCase{"older/job-state-version-1.xml", "State of a backup job: in the layout of version 1\n"
-                                                              "  Object storage mode  number 3\n"}));
+                    ShowCase{"older/job-state-version-1.xml",
+                             "State of a backup job: in the layout of version 1\n"
+                             "  Object storage mode  number 3 (older form: ObjectStorageBackupMode)\n"}));
 
 INSTANTIATE_TEST_SUITE_P(
     OfTransforms, ShowRecord,
@@ -202,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
                              "  Session          e2a57c90-14fb-4b8d-9d36-05c8f1e6a742\n"
                              "  Backup           84b0d3f9-2e61-47ca-8f15-d96c70ab31e5\n"
                              "  Operation        create a synthetic full\n"
-                             "  Last increments  1 restore point\n"
+                             "  Last increments  1 restore point (older form: LastIncrementPointId)\n"
                              "    1              c7d2e5b8-3a94-4160-8bf7-0e91a6d3c528\n"
                              "  Target file      /backups/site-b/full-2019-11-02\n"},
                     ShowCase{"gfs-synthetic-full.xml", "GFS synthetic full transform\n"

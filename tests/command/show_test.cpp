@@ -164,17 +164,20 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"older/schedule-monthly.xml",
                  "    Start                   starts Every 15 day of months January, April, July, October at 06:05"},
         LineCase{"older/schedule-monthly.xml", "  Compression               Zstd9, level 4 of 0 to 4"},
-        LineCase{"older/schedule-monthly.xml", "  Snapshot                  none"},
+        LineCase{"older/schedule-monthly.xml", "      4    Snapshot                  none (older form: IsSnapshotRequired)"},
         LineCase{"older/schedule-periodically.xml", "    Start                   starts Every 24 hours (periodical)"},
         LineCase{"older/schedule-disabled.xml", "    Start                   disabled, set to Every Monday at 20:00"},
         LineCase{"older/schedule-calendar-without-type.xml",
                  "    Start                   starts Every 6 hours 30 minutes (periodical)"},
-        LineCase{"older/indexing-all.xml", "  Indexing                  all files and folders"},
-        LineCase{"older/indexing-only.xml", "  Indexing                  only these folders: /etc;/var/www"},
-        LineCase{"older/indexing-except.xml",
-                 "  Indexing                  all but these folders: /srv/scratch;/var/cache"},
-        LineCase{"older/retain-days-as-attribute.xml",
-                 "  Deleted data              data of machines that vanished from the job is kept 45 days"}));
+        LineCase{"older/indexing-all.xml",
+                 "      2    Indexing                  all files and folders (older form: IndexAll)"},
+        LineCase{"older/indexing-only.xml",
+                 "      2    Indexing                  only these folders: /etc;/var/www (older form: IndexOnly)"},
+        LineCase{"older/indexing-except.xml", "      2    Indexing                  all but these folders: "
+                                              "/srv/scratch;/var/cache (older form: IndexExcept)"},
+        LineCase{"older/retain-days-as-attribute.xml", "      3    Deleted data              data of machines that "
+                                                       "vanished from the job is kept 45 days (older form: "
+                                                       "RetainDays)"}));
 
 /// The words of a field, wherever its column starts.
 std::string wordsOf(const std::string& output, const std::string& label)

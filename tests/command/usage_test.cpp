@@ -141,28 +141,30 @@ TEST(Terminal, HasABoldTitleAndBrokenLines)
 {
     const auto result = runCommandOnTerminal({"show", "managing-server.xml"}, 60);
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "\x1b[1mJob options: in the managing server's form\x1b[0m\r\n"
-                             "  Compression       Zstd3, level 3 of 0 to 4\r\n"
-                             "  Block size        4096 KB\r\n"
-                             "  Retention         keeps 14 restore points\r\n"
-                             "  Deleted data      data of machines that vanished from the\r\n"
-                             "                    job is kept 30 days\r\n"
-                             "  Deduplication     off\r\n"
-                             "  Schedule          disabled: this form carries no schedule,\r\n"
-                             "                    so the job does not start by itself\r\n"
-                             "  Not in this form  snapshot mode, scripts, retries,\r\n"
-                             "                    indexing, schedule, GFS policy and\r\n"
-                             "                    product-specific text\r\n");
+    EXPECT_EQ(result.output, "   line  \x1b[1mJob options: in the managing server's form\x1b[0m\r\n"
+                             "      4    Compression       Zstd3, level 3 of 0 to 4\r\n"
+                             "      5    Block size        4096 KB\r\n"
+                             "      8    Retention         keeps 14 restore points\r\n"
+                             "     11    Deleted data      data of machines that vanished\r\n"
+                             "                             from the job is kept 30 days\r\n"
+                             "      9    Deduplication     off\r\n"
+                             "default    Schedule          disabled: this form carries no\r\n"
+                             "                             schedule, so the job does not\r\n"
+                             "                             start by itself\r\n"
+                             "           Not in this form  snapshot mode, scripts,\r\n"
+                             "                             retries, indexing, schedule,\r\n"
+                             "                             GFS policy and product-specific\r\n"
+                             "                             text\r\n");
 }
 
 TEST(Terminal, WithoutColourWhenAsked)
 {
     const auto result = runCommandOnTerminal({"show", "gfs-policy.xml"}, 200, {"NO_COLOR"});
     EXPECT_EQ(result.output,
-              "GFS policy: on\r\n"
-              "  Weekly   keeps 6 weekly restore points, effective from 2024-03-31 22:00 UTC on, slot 0\r\n"
-              "  Monthly  off (set to keep 3 monthly restore points, effective from 2024-04-01 00:00 UTC on, slot "
-              "6)\r\n");
+              "   line  GFS policy: on\r\n"
+              "      4    Weekly   keeps 6 weekly restore points, effective from 2024-03-31 22:00 UTC on, slot 0\r\n"
+              "      5    Monthly  off (set to keep 3 monthly restore points, effective from 2024-04-01 00:00 UTC on, "
+              "slot 6)\r\n");
 }
 
 } // namespace

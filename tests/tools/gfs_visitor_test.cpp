@@ -24,11 +24,11 @@ TEST(GfsTree, TellsTheRules)
     EXPECT_EQ(policy.words, "on");
     EXPECT_EQ(at(policy, "weekly").words,
               "keeps 4 weekly restore points, effective from 2024-03-31 22:15 UTC on, slot 5");
-    EXPECT_EQ(at(policy, "weekly").line, 2);
+    EXPECT_EQ(at(policy, "weekly").origin.line, 2);
     EXPECT_EQ(at(policy, "weekly/keepCount").value, "4");
-    EXPECT_EQ(at(policy, "weekly/keepCount").line, 2);
+    EXPECT_EQ(at(policy, "weekly/keepCount").origin.line, 2);
     EXPECT_EQ(at(policy, "weekly/beginTimeUtc").value, "03/31/2024 22:15:00");
-    EXPECT_EQ(at(policy, "weekly/beginTimeUtc").line, 3);
+    EXPECT_EQ(at(policy, "weekly/beginTimeUtc").origin.line, 3);
     EXPECT_EQ(at(policy, "monthly").words, "off (set to keep 1 monthly restore point, effective at once, slot -1)");
     EXPECT_EQ(at(policy, "yearly").words, "none");
     EXPECT_TRUE(at(policy, "yearly").isDetail);
@@ -41,7 +41,7 @@ TEST(GfsTree, ReadsTheLongNames)
                "BeginTimeUtc=\"soon\" DesiredTime=\"12\"/></GfsPolicy>");
     EXPECT_EQ(policy.words, "off, its rules are not in force");
     EXPECT_EQ(at(policy, "yearly").words, "keeps 7 yearly restore points, effective at once, slot 12");
-    EXPECT_EQ(at(policy, "yearly/keepCount").line, 2);
+    EXPECT_EQ(at(policy, "yearly/keepCount").origin.line, 2);
 }
 
 TEST(GfsTree, WithoutRules)

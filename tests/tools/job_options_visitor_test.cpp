@@ -85,7 +85,7 @@ TEST(JobOptionsTree, BothFormsTellTheSame)
             const auto& field = at(*root, expected.name);
             EXPECT_EQ(field.value, expected.value) << expected.name;
             EXPECT_EQ(field.words, expected.words) << expected.name;
-            EXPECT_EQ(field.line, root == &agent ? expected.agentLine : expected.serverLine) << expected.name;
+            EXPECT_EQ(field.origin.line, root == &agent ? expected.agentLine : expected.serverLine) << expected.name;
         }
     }
 }
@@ -102,7 +102,7 @@ TEST(JobOptionsTree, SaysWhatTheManagingServersFormCannotCarry)
          {"snapshotMode", "preFreezeCommand", "retryCount", "indexing", "gfsPolicy", "productSpecific"})
     {
         EXPECT_TRUE(at(server, name).isDetail) << name;
-        EXPECT_EQ(at(server, name).line, 0) << name;
+        EXPECT_EQ(at(server, name).origin.line, 0) << name;
     }
     EXPECT_EQ(at(treeOf(AgentForm), "notCarried").label, "Only in this form");
 }
@@ -128,15 +128,15 @@ TEST(JobOptionsTree, DefaultsHaveNoLine)
     {
         EXPECT_EQ(at(job, name).value, value) << name;
         EXPECT_EQ(at(job, name).words, words) << name;
-        EXPECT_EQ(at(job, name).line, 0) << name;
+        EXPECT_EQ(at(job, name).origin.line, 0) << name;
     }
 }
 
 TEST(JobOptionsTree, EmptyCompressionIsADefault)
 {
     const auto job = treeOf("<JobOptions Compression=\"\" BlockSize=\"\"/>");
-    EXPECT_EQ(at(job, "compression").line, 0);
-    EXPECT_EQ(at(job, "blockSize").line, 0);
+    EXPECT_EQ(at(job, "compression").origin.line, 0);
+    EXPECT_EQ(at(job, "blockSize").origin.line, 0);
 }
 
 TEST(JobOptionsTree, TellsScriptsAndRetries)
@@ -147,7 +147,7 @@ TEST(JobOptionsTree, TellsScriptsAndRetries)
     EXPECT_EQ(at(job, "preFreezeCommand").words, "/a b");
     EXPECT_EQ(at(job, "postThawCommand").words, "/c");
     EXPECT_EQ(at(job, "preJobCommand").words, "/d");
-    EXPECT_EQ(at(job, "preJobCommand").line, 2);
+    EXPECT_EQ(at(job, "preJobCommand").origin.line, 2);
     EXPECT_EQ(at(job, "postJobCommand").words, "/e");
     EXPECT_EQ(at(job, "retryCount").words, "1 time with 1 minute 30 seconds between");
     EXPECT_EQ(at(job, "ignoreFreezeThawFailures").words, "ignored");
@@ -185,7 +185,7 @@ TEST(Field, IsToldInWords)
     {
         const auto job = treeOf(std::string("<JobOptions ") + expected.attributes + "/>");
         EXPECT_EQ(at(job, expected.name).words, expected.words) << expected.attributes;
-        EXPECT_EQ(at(job, expected.name).line, 1) << expected.attributes;
+        EXPECT_EQ(at(job, expected.name).origin.line, 1) << expected.attributes;
     }
 }
 
@@ -194,11 +194,11 @@ TEST(JobOptionsTree, TellsIndexingOfTheElement)
     const auto job =
         treeOf("<JobOptions IndexAll=\"true\">\n<Indexing\nType=\"IndexExcept\"\nFolders=\"/scratch\"/></JobOptions>");
     EXPECT_EQ(at(job, "indexing").words, "all but these folders: /scratch");
-    EXPECT_EQ(at(job, "indexing").line, 2);
+    EXPECT_EQ(at(job, "indexing").origin.line, 2);
     EXPECT_EQ(at(job, "indexing/type").value, "IndexExcept");
-    EXPECT_EQ(at(job, "indexing/type").line, 3);
+    EXPECT_EQ(at(job, "indexing/type").origin.line, 3);
     EXPECT_EQ(at(job, "indexing/folders").value, "/scratch");
-    EXPECT_EQ(at(job, "indexing/folders").line, 4);
+    EXPECT_EQ(at(job, "indexing/folders").origin.line, 4);
 }
 
 } // namespace

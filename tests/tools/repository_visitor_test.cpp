@@ -37,7 +37,7 @@ TEST(LimitationsTree, HoldsEveryFieldWithItsLine)
 TEST(LimitationsTree, BelowTheRootTheFirstCounts)
 {
     const auto root = treeOf("<a>\n<b/>\n" + std::string(Limitations) + "<JobSettings/></a>");
-    EXPECT_EQ(root.line, 3);
+    EXPECT_EQ(root.origin.line, 3);
     expectFields(root, {{"chainLength", "1", "at most 1 restore point", 10}});
 }
 
@@ -68,7 +68,7 @@ TEST(ImmutabilityTree, TellsAnyModeAndAnyDays)
     const auto root = treeOf("<a>\n<ImmutabilitySettings IsEnabled=\"1\" IntervalDays=\"-2147483648\" "
                              "ImmutabilityMode=\"7\"/></a>");
     EXPECT_EQ(root.words, "on for -2147483648 days");
-    EXPECT_EQ(root.line, 2);
+    EXPECT_EQ(root.origin.line, 2);
     expectFields(root, {{"mode", "7", "of an unknown kind (7)", 2}});
     expectFields(treeOf("<ImmutabilitySettings IsEnabled=\"0\" IntervalDays=\"10\"/>"),
                  {{"mode", "0", "the one that is set on the repository", 0}});
@@ -93,7 +93,7 @@ TEST(DirectImmutabilityTree, WithoutDaysSaysSo)
     const auto root = treeOf("<a>\n<DirectBackupImmutabilitySettings HasImmutableCapacityOrArchiveTierExtent=\"true\">"
                              "<ImmutabilitySettings IsEnabled=\"true\" IntervalDays=\"14\"/>"
                              "</DirectBackupImmutabilitySettings></a>");
-    EXPECT_EQ(root.line, 2);
+    EXPECT_EQ(root.origin.line, 2);
     expectFields(root, {{"numberDaysForCapacityTierMoveOrArchiveTier", "0", "no number of days given", 0},
                         {"hasImmutableCapacityOrArchiveTierExtent", "true", "one is immutable", 2}});
 }

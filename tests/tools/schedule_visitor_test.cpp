@@ -108,7 +108,7 @@ TEST(ScheduleTree, HoldsEveryFieldWithItsLine)
     EXPECT_EQ(namesOf(start), (std::vector<std::string>{"isEnabled", "scheduleType", "time", "weekMask", "monthMask",
                                                         "weekDayNumber", "dayOfMonth", "logText"}));
     EXPECT_EQ(start.words, "starts Every 15 day of every month at 22:30");
-    EXPECT_EQ(start.line, 2);
+    EXPECT_EQ(start.origin.line, 2);
     struct Case
     {
         const char* name;
@@ -126,9 +126,9 @@ TEST(ScheduleTree, HoldsEveryFieldWithItsLine)
     {
         EXPECT_EQ(at(start, expected.name).value, expected.value) << expected.name;
         EXPECT_EQ(at(start, expected.name).words, expected.words) << expected.name;
-        EXPECT_EQ(at(start, expected.name).line, expected.line) << expected.name;
+        EXPECT_EQ(at(start, expected.name).origin.line, expected.line) << expected.name;
     }
-    EXPECT_EQ(at(start, "monthMask").line, 8);
+    EXPECT_EQ(at(start, "monthMask").origin.line, 8);
 }
 
 TEST(ScheduleTree, FlagOfAnOlderLayoutStandsOnTheParent)
@@ -136,8 +136,8 @@ TEST(ScheduleTree, FlagOfAnOlderLayoutStandsOnTheParent)
     const auto root = treeOf(std::string("<JobOptions\nSchedule=\"true\">\n<Schedule Hours=\"20\"\nMinutes=\"0\">") +
                              AllDays + "</Schedule></JobOptions>");
     EXPECT_EQ(at(root, "schedule/jobStart").words, "starts Every day at 20:00");
-    EXPECT_EQ(at(root, "schedule/jobStart/isEnabled").line, 2);
-    EXPECT_EQ(at(root, "schedule/jobStart/time").line, 3);
+    EXPECT_EQ(at(root, "schedule/jobStart/isEnabled").origin.line, 2);
+    EXPECT_EQ(at(root, "schedule/jobStart/time").origin.line, 3);
 }
 
 TEST(ScheduleTree, DisabledOptionsSayWhatTheyAreSetTo)
@@ -150,7 +150,7 @@ TEST(ScheduleTree, DisabledOptionsSayWhatTheyAreSetTo)
     EXPECT_EQ(at(root, "activeFull").words, "disabled, set to Every last day of every month");
     EXPECT_EQ(at(root, "activeFull/dayOfMonth").words, "the last");
     EXPECT_EQ(at(root, "syntheticFull").words, "disabled");
-    EXPECT_EQ(at(root, "syntheticFull").line, 0);
+    EXPECT_EQ(at(root, "syntheticFull").origin.line, 0);
 }
 
 TEST(ScheduleTree, PartsWithoutARootAreRead)

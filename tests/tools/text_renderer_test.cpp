@@ -7,21 +7,23 @@
 namespace
 {
 
+using describe::EOrigin;
 using describe::makeDetail;
 using describe::makeField;
 using describe::makeSecret;
 using describe::Node;
+using describe::Origin;
 using describe::renderTable;
 using describe::renderText;
 using describe::TextStyle;
 
 Node makeTree()
 {
-    auto root = makeField("job", "Job", "", "of a test", 1);
-    root.children.push_back(makeField("size", "Size", "1024", "1024 KB", 2));
-    auto group = makeField("start", "Start of all", "", "", 3);
-    group.children.push_back(makeField("time", "Time", "22:30", "at 22:30", 4));
-    group.children.push_back(makeDetail("mask", "Mask", "1", "not to be seen", 5));
+    auto root = makeField("job", "Job", "", "of a test");
+    root.children.push_back(makeField("size", "Size", "1024", "1024 KB"));
+    auto group = makeField("start", "Start of all", "", "");
+    group.children.push_back(makeField("time", "Time", "22:30", "at 22:30"));
+    group.children.push_back(makeDetail("mask", "Mask", "1", "not to be seen"));
     root.children.push_back(group);
     return root;
 }
@@ -34,10 +36,40 @@ TEST(RenderText, AlignsWordsAndLeavesOutDetails)
                                                    "    Time        at 22:30\n");
 }
 
+Origin onLine(int line)
+{
+    return {EOrigin::Document, line, "Name"};
+}
+
+TEST(RenderText, MarginTellsWhereValuesCameFrom)
+{
+    auto root = makeField("job", "Job", "", "of a test", onLine(1));
+    root.children.push_back(makeField("size", "Size", 1024, "1024 KB", onLine(12345)));
+    root.children.push_back(makeField("retries", "Retries", 0, "none", {EOrigin::Default, 0, "RetryCount"}));
+    root.children.push_back(makeField("mode", "Snapshot", "", "required", {EOrigin::Older, 7, "Is\x1bNeeded"}));
+    root.children.push_back(makeField("rule", "Rule", "", "", {EOrigin::Older, 8, "Rule"}));
+    root.children.push_back(makeField("note", "Note", "", "from nowhere"));
+    EXPECT_EQ(renderText(root, TextStyle{}), "   line  Job: of a test\n"
+                                             "  12345    Size      1024 KB\n"
+                                             "default    Retries   none\n"
+                                             "      7    Snapshot  required (older form: Is\\x1bNeeded)\n"
+                                             "      8    Rule      (older form: Rule)\n"
+                                             "           Note      from nowhere\n");
+    TextStyle narrow;
+    narrow.width = 40;
+    EXPECT_EQ(renderText(root, narrow), "   line  Job: of a test\n"
+                                        "  12345    Size      1024 KB\n"
+                                        "default    Retries   none\n"
+                                        "      7    Snapshot  required (older\n"
+                                        "                     form: Is\\x1bNeeded)\n"
+                                        "      8    Rule      (older form: Rule)\n"
+                                        "           Note      from nowhere\n");
+}
+
 TEST(RenderText, TitleWithoutWordsOrWithoutLabel)
 {
-    EXPECT_EQ(renderText(makeField("a", "Schedule", "", "", 0), TextStyle{}), "Schedule\n");
-    EXPECT_EQ(renderText(makeField("a", "", "", "words", 0), TextStyle{}), "words\n");
+    EXPECT_EQ(renderText(makeField("a", "Schedule", "", ""), TextStyle{}), "Schedule\n");
+    EXPECT_EQ(renderText(makeField("a", "", "", "words"), TextStyle{}), "words\n");
 }
 
 TEST(RenderText, BoldTitleOnly)
@@ -52,8 +84,8 @@ TEST(RenderText, BoldTitleOnly)
 
 TEST(RenderText, BreaksLongWordsUnderTheirColumn)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("b", "Label", "", "one two three four five six seven eight", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("b", "Label", "", "one two three four five six seven eight"));
     TextStyle style;
     style.width = 33;
     EXPECT_EQ(renderText(root, style), "A\n"
@@ -63,8 +95,8 @@ TEST(RenderText, BreaksLongWordsUnderTheirColumn)
 
 TEST(RenderText, KeepsALongWordWholeOnANarrowTerminal)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("b", "Label", "", "of /a/path/that/is/longer/than/the/line or so", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("b", "Label", "", "of /a/path/that/is/longer/than/the/line or so"));
     TextStyle style;
     style.width = 1;
     EXPECT_EQ(renderText(root, style), "A\n"
@@ -75,8 +107,8 @@ TEST(RenderText, KeepsALongWordWholeOnANarrowTerminal)
 
 TEST(RenderText, HidesSecretsUnlessTold)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("key", "Key", "canary", "canary", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("key", "Key", "canary", "canary"));
     root.children.back().secret = true;
     EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  (hidden, 6 characters)\n");
     TextStyle style;
@@ -86,40 +118,40 @@ TEST(RenderText, HidesSecretsUnlessTold)
 
 TEST(RenderText, CountsTheCharactersOfASecretNotItsBytes)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeSecret("key", "Key", "\xc3\xa9\xe2\x82\xac", 0));
-    root.children.push_back(makeSecret("pin", "Pin", "1", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeSecret("key", "Key", "\xc3\xa9\xe2\x82\xac"));
+    root.children.push_back(makeSecret("pin", "Pin", "1"));
     EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  (hidden, 2 characters)\n  Pin  (hidden, 1 character)\n");
 }
 
 TEST(RenderText, AnEmptySecretHidesNothing)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeSecret("key", "Key", "", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeSecret("key", "Key", ""));
     EXPECT_FALSE(root.children.back().secret);
     EXPECT_EQ(renderText(root, TextStyle{}), "A\n  Key  none\n");
 }
 
 TEST(RenderTable, HidesSecrets)
 {
-    auto row = makeField("row", "", "", "", 0);
-    row.children.push_back(makeSecret("key", "Key", "canary", 0));
-    auto root = makeField("a", "A", "", "", 0);
+    auto row = makeField("row", "", "", "");
+    row.children.push_back(makeSecret("key", "Key", "canary"));
+    auto root = makeField("a", "A", "", "");
     root.children.push_back(row);
     EXPECT_EQ(renderTable(root, TextStyle{}), "A\nKey\n(hidden, 6 characters)\n");
 }
 
 TEST(RenderText, EscapesControlCharacters)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("b", "B", "", "x\x1b]0;title\x07\ny", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("b", "B", "", "x\x1b]0;title\x07\ny"));
     EXPECT_EQ(renderText(root, TextStyle{}), "A\n  B  x\\x1b]0;title\\x07\\ny\n");
 }
 
 TEST(RenderText, ShortensEndlessWords)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("b", "B", "", std::string(100, 'x'), 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("b", "B", "", std::string(100, 'x')));
     TextStyle style;
     style.longestWords = 16;
     EXPECT_EQ(renderText(root, style), "A\n  B  xxxxxxxxxxxx ... (84 bytes left out) ... xxxx\n");
@@ -127,24 +159,24 @@ TEST(RenderText, ShortensEndlessWords)
 
 TEST(RenderText, CountsCharactersNotBytes)
 {
-    auto root = makeField("a", "A", "", "", 0);
-    root.children.push_back(makeField("b", "\xc3\xa9t\xc3\xa9", "", "one", 0));
-    root.children.push_back(makeField("c", "winter", "", "two", 0));
+    auto root = makeField("a", "A", "", "");
+    root.children.push_back(makeField("b", "\xc3\xa9t\xc3\xa9", "", "one"));
+    root.children.push_back(makeField("c", "winter", "", "two"));
     EXPECT_EQ(renderText(root, TextStyle{}), "A\n  \xc3\xa9t\xc3\xa9     one\n  winter  two\n");
 }
 
 Node makeRow(const std::string& date, const std::string& full)
 {
-    auto row = makeField("day", "", date, "", 0);
-    row.children.push_back(makeField("date", "Date", date, date, 0));
-    row.children.push_back(makeField("full", "Full", full, full, 0));
-    row.children.push_back(makeField("window", "Window", "", "", 0));
+    auto row = makeField("day", "", date, "");
+    row.children.push_back(makeField("date", "Date", date, date));
+    row.children.push_back(makeField("full", "Full", full, full));
+    row.children.push_back(makeField("window", "Window", "", ""));
     return row;
 }
 
 TEST(RenderTable, AlignsColumnsAndLeavesOutEmptyOnes)
 {
-    auto root = makeField("next", "", "", "starts daily", 0);
+    auto root = makeField("next", "", "", "starts daily");
     root.children.push_back(makeRow("2026-03-06", ""));
     root.children.push_back(makeRow("2026-03-07", "active full"));
     EXPECT_EQ(renderTable(root, TextStyle{}), "starts daily\n"
@@ -155,7 +187,7 @@ TEST(RenderTable, AlignsColumnsAndLeavesOutEmptyOnes)
 
 TEST(RenderTable, WithoutRowsIsItsTitle)
 {
-    EXPECT_EQ(renderTable(makeField("next", "", "", "starts never", 0), TextStyle{}), "starts never\n");
+    EXPECT_EQ(renderTable(makeField("next", "", "", "starts never"), TextStyle{}), "starts never\n");
 }
 
 } // namespace

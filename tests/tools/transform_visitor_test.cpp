@@ -46,10 +46,10 @@ TEST(DeletePointTree, HoldsEveryFieldWithItsLine)
     const auto& points = at(root, "pointIds").children;
     ASSERT_EQ(points.size(), 2U);
     EXPECT_EQ(points[0].value, Second);
-    EXPECT_EQ(points[0].line, 8);
+    EXPECT_EQ(points[0].origin.line, 8);
     EXPECT_EQ(points[1].words, First);
     EXPECT_EQ(points[1].label, "2");
-    EXPECT_EQ(points[1].line, 9);
+    EXPECT_EQ(points[1].origin.line, 9);
 }
 
 TEST(DeletePointTree, WithoutPointsSaysSo)
@@ -78,7 +78,7 @@ TEST(SyntheticFullTree, HoldsEveryFieldWithItsLine)
     const auto& points = at(root, "lastIncrementPoints").children;
     ASSERT_EQ(points.size(), 3U);
     EXPECT_EQ(points[1].value, Second);
-    EXPECT_EQ(points[1].line, 9);
+    EXPECT_EQ(points[1].origin.line, 9);
 }
 
 TEST(SyntheticFullTree, TellsThePointOfTheOlderForm)

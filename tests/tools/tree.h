@@ -63,7 +63,7 @@ inline void expectFields(const describe::Node& root, const std::vector<ExpectedF
     {
         EXPECT_EQ(at(root, field.path).value, field.value) << field.path;
         EXPECT_EQ(at(root, field.path).words, field.words) << field.path;
-        EXPECT_EQ(at(root, field.path).line, field.line) << field.path;
+        EXPECT_EQ(at(root, field.path).origin.line, field.line) << field.path;
     }
 }
 

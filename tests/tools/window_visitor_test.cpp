@@ -22,16 +22,16 @@ TEST(WindowTree, TellsTheWeekFromMonday)
     EXPECT_EQ(window.words, "closed except in the hours that the document lists");
     EXPECT_EQ(at(window, "monday").words, "open 08:00-17:00, 20:00-24:00");
     EXPECT_EQ(at(window, "monday").value, "08-17, 20-24");
-    EXPECT_EQ(at(window, "monday").line, 3);
+    EXPECT_EQ(at(window, "monday").origin.line, 3);
     EXPECT_EQ(at(window, "tuesday").words, "open all day");
-    EXPECT_EQ(at(window, "tuesday").line, 4);
+    EXPECT_EQ(at(window, "tuesday").origin.line, 4);
     EXPECT_EQ(at(window, "sunday").words, "closed");
     EXPECT_EQ(at(window, "sunday").value, "");
-    EXPECT_EQ(at(window, "sunday").line, 0);
+    EXPECT_EQ(at(window, "sunday").origin.line, 0);
     EXPECT_EQ(at(window, "kind").value, "1");
-    EXPECT_EQ(at(window, "kind").line, 2);
+    EXPECT_EQ(at(window, "kind").origin.line, 2);
     EXPECT_EQ(at(window, "hourlyOffsetMinutes").words, "90 minutes, stored only: the hours above are not shifted");
-    EXPECT_EQ(at(window, "hourlyOffsetMinutes").line, 1);
+    EXPECT_EQ(at(window, "hourlyOffsetMinutes").origin.line, 1);
 }
 
 TEST(WindowTree, ListedHoursOfTheOpenKindAreClosed)

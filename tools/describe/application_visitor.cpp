@@ -41,27 +41,26 @@ std::string tellTruncation(const SOracleArchivedLogsTruncationConfig& truncation
 }
 
 // Readers take any number. Who applies the settings checks them, so a fault shows there first.
-void addFault(const SOracleArchivedLogsTruncationConfig& truncation, int line, std::vector<Node>& fields)
+void addFault(const SOracleArchivedLogsTruncationConfig& truncation, const Origin& origin, std::vector<Node>& fields)
 try
 {
     truncation.Validate();
 }
 catch (const std::exception& fault)
 {
-    fields.push_back(makeField("fault", "Refused when applied", fault.what(), fault.what(), line));
+    fields.push_back(makeField("fault", "Refused when applied", fault.what(), fault.what(), origin));
 }
 
 Node visitTruncation(const SOracleArchivedLogsTruncationConfig& truncation, const Place& place)
 {
-    auto node = makeField("truncation", "Archived redo logs", "", tellTruncation(truncation), place.line());
+    auto node = makeField("truncation", "Archived redo logs", "", tellTruncation(truncation), place.origin());
     ElementFields fields(node, place);
     const auto mode = EArchivedLogsTruncationMode::ToString(truncation.mode);
     fields.addDetail("mode", "Mode", mode, mode, application_names::Mode);
-    fields.addDetail("sizeGB", "Size", util::toStr(truncation.sizeGB), tellGigabytes(truncation.sizeGB),
-                     application_names::SizeGB);
-    fields.addDetail("lifetimeHours", "Age", util::toStr(truncation.lifetimeHours),
-                     countOf(truncation.lifetimeHours, "hour"), application_names::LifetimeHours);
-    addFault(truncation, place.line(), node.children);
+    fields.addDetail("sizeGB", "Size", truncation.sizeGB, tellGigabytes(truncation.sizeGB), application_names::SizeGB);
+    fields.addDetail("lifetimeHours", "Age", truncation.lifetimeHours, countOf(truncation.lifetimeHours, "hour"),
+                     application_names::LifetimeHours);
+    addFault(truncation, place.origin(), node.children);
     return node;
 }
 
@@ -69,7 +68,7 @@ Node visitTruncation(const SOracleArchivedLogsTruncationConfig& truncation, cons
 
 Node visitOracleConfig(const SApplicationProcessingOracleConfig& config, const Place& place)
 {
-    auto node = makeField("oracleConfig", "Oracle processing", "", "", place.line());
+    auto node = makeField("oracleConfig", "Oracle processing", "", "", place.origin());
     ElementFields(node, place)
         .addText("username", "User", CUtf8String::FromWide(config.username).str(), application_names::Username);
     node.children.push_back(visitTruncation(config.truncation, place.child(application_names::LogsTruncateConfig)));
@@ -78,7 +77,7 @@ Node visitOracleConfig(const SApplicationProcessingOracleConfig& config, const P
 
 Node visitPostgresConfig(const SApplicationProcessingPostgresConfig& config, const Place& place)
 {
-    auto node = makeField("postgresConfig", "PostgreSQL processing", "", "", place.line());
+    auto node = makeField("postgresConfig", "PostgreSQL processing", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addText("osUser", "User", CUtf8String::FromWide(config.osUser).str(), application_names::OsUser);
     fields.addText("authType", "Authentication", EPostgreSqlAuthType::ToStr(config.authType),

@@ -20,16 +20,16 @@ bool carriesPassword(const std::string& address)
 
 } // namespace
 
-void ElementFields::add(const char* name, const char* label, const std::string& value, const std::string& words,
+void ElementFields::add(const char* name, const char* label, const Value& value, const std::string& words,
                         xmlpp::CXmlName attribute)
 {
-    m_node.children.push_back(makeField(name, label, value, words, m_place.lineOf(attribute)));
+    m_node.children.push_back(makeField(name, label, value, words, m_place.originOf(attribute)));
 }
 
-void ElementFields::addDetail(const char* name, const char* label, const std::string& value, const std::string& words,
+void ElementFields::addDetail(const char* name, const char* label, const Value& value, const std::string& words,
                               xmlpp::CXmlName attribute)
 {
-    m_node.children.push_back(makeDetail(name, label, value, words, m_place.lineOf(attribute)));
+    m_node.children.push_back(makeDetail(name, label, value, words, m_place.originOf(attribute)));
 }
 
 void ElementFields::addText(const char* name, const char* label, const std::string& text, xmlpp::CXmlName attribute)
@@ -40,7 +40,12 @@ void ElementFields::addText(const char* name, const char* label, const std::stri
 void ElementFields::addFlag(const char* name, const char* label, bool flag, const char* wordsOn, const char* wordsOff,
                             xmlpp::CXmlName attribute)
 {
-    add(name, label, flagText(flag), flag ? wordsOn : wordsOff, attribute);
+    add(name, label, flag, flag ? wordsOn : wordsOff, attribute);
+}
+
+void ElementFields::addNumber(const char* name, const char* label, const Value& number, xmlpp::CXmlName attribute)
+{
+    add(name, label, number, number.text, attribute);
 }
 
 void ElementFields::addIdentifier(const char* name, const char* label, const guid::guid_t& id,
@@ -57,7 +62,7 @@ void ElementFields::addMoment(const char* name, const char* label, const datetim
 
 void ElementFields::addSecret(const char* name, const char* label, const std::string& secret, xmlpp::CXmlName attribute)
 {
-    m_node.children.push_back(makeSecret(name, label, secret, m_place.lineOf(attribute)));
+    m_node.children.push_back(makeSecret(name, label, secret, m_place.originOf(attribute)));
 }
 
 void ElementFields::addAddress(const char* name, const char* label, const std::string& address,

@@ -19,11 +19,11 @@ class ElementFields
 public:
     ElementFields(Node& node, const Place& place) : m_node(node), m_place(place) {}
 
-    void add(const char* name, const char* label, const std::string& value, const std::string& words,
+    void add(const char* name, const char* label, const Value& value, const std::string& words,
              xmlpp::CXmlName attribute);
 
     /// A field that the words of the node tell already.
-    void addDetail(const char* name, const char* label, const std::string& value, const std::string& words,
+    void addDetail(const char* name, const char* label, const Value& value, const std::string& words,
                    xmlpp::CXmlName attribute);
 
     /// A text as it stands, "none" when it is empty.
@@ -31,6 +31,9 @@ public:
 
     void addFlag(const char* name, const char* label, bool flag, const char* wordsOn, const char* wordsOff,
                  xmlpp::CXmlName attribute);
+
+    /// A number that needs no words.
+    void addNumber(const char* name, const char* label, const Value& number, xmlpp::CXmlName attribute);
 
     void addIdentifier(const char* name, const char* label, const guid::guid_t& id, xmlpp::CXmlName attribute);
 

@@ -43,19 +43,18 @@ template <class TTraits>
 Node visitRule(const std::optional<SGfsPolicyInfoBase<TTraits>>& rule, const RuleWords& words, const Place& policy,
                bool isShortNames)
 {
-    if (!rule)
-        return makeDetail(words.name, words.label, "", "none", 0);
     const auto place = policy.child(SGfsPolicyInfoBase<TTraits>::getElementName(isShortNames));
-    auto node = makeField(words.name, words.label, "", tellRule(*rule, words), place.line());
-    const auto detail = [&](const char* name, const char* label, const std::string& value, const char* attribute) {
-        node.children.push_back(makeDetail(name, label, value, value, place.lineOf(attribute)));
+    if (!rule)
+        return makeDetail(words.name, words.label, "", "none", place.origin());
+    auto node = makeField(words.name, words.label, "", tellRule(*rule, words), place.origin());
+    const auto detail = [&](const char* name, const char* label, const Value& value, const char* attribute) {
+        node.children.push_back(makeDetail(name, label, value, value.text, place.originOf(attribute)));
     };
-    detail("isEnabled", "Enabled", flagText(rule->isEnabled), job_names::IsEnabled);
-    detail("keepCount", "Kept", util::toStr(rule->keepCount),
-           isShortNames ? TTraits::ShortKeepCount : TTraits::LongKeepCount);
+    detail("isEnabled", "Enabled", rule->isEnabled, job_names::IsEnabled);
+    detail("keepCount", "Kept", rule->keepCount, isShortNames ? TTraits::ShortKeepCount : TTraits::LongKeepCount);
     detail("beginTimeUtc", "Effective from", rule->beginTimeUtc.toStdString(datetime::CDateTime::QorDateFormat),
            job_names::BeginTimeUtc);
-    detail("desiredTime", "Slot", util::toStr(rule->desiredTime), job_names::DesiredTime);
+    detail("desiredTime", "Slot", rule->desiredTime, job_names::DesiredTime);
     return node;
 }
 
@@ -71,9 +70,9 @@ std::string tellPolicy(const SGfsPolicyInfo& policy)
 
 Node visitGfsPolicy(const SGfsPolicyInfo& policy, const Place& place, bool isShortNames)
 {
-    auto node = makeField("gfsPolicy", "GFS policy", "", tellPolicy(policy), place.line());
-    node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(policy.isEnabled), flagText(policy.isEnabled),
-                                       place.lineOf(job_names::IsEnabled)));
+    auto node = makeField("gfsPolicy", "GFS policy", "", tellPolicy(policy), place.origin());
+    node.children.push_back(makeDetail("isEnabled", "Enabled", policy.isEnabled, flagText(policy.isEnabled),
+                                       place.originOf(job_names::IsEnabled)));
     node.children.push_back(
         visitRule(policy.weekly, {"weekly", "Weekly", "weekly restore point"}, place, isShortNames));
     node.children.push_back(

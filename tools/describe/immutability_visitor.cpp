@@ -38,24 +38,25 @@ std::string tellMode(ERepositoryImmutabilityMode::type mode)
 Node visitImmutability(const SObjectStorageImmutabilitySettings& settings, const Place& place)
 {
     auto node =
-        makeField("immutabilitySettings", "Immutability of backups", "", tellImmutability(settings), place.line());
+        makeField("immutabilitySettings", "Immutability of backups", "", tellImmutability(settings), place.origin());
     ElementFields fields(node, place);
-    fields.addDetail("isEnabled", "Enabled", flagText(settings.isEnabled), flagText(settings.isEnabled),
+    fields.addDetail("isEnabled", "Enabled", settings.isEnabled, flagText(settings.isEnabled),
                      storage_names::IsEnabled);
-    fields.addDetail("intervalDays", "Days", util::toStr(settings.intervalDays),
-                     countOfSigned(settings.intervalDays, "day"), storage_names::IntervalDays);
-    fields.add("mode", "Period", util::toStr(settings.mode), tellMode(settings.mode), storage_names::ImmutabilityMode);
+    fields.addDetail("intervalDays", "Days", settings.intervalDays, countOfSigned(settings.intervalDays, "day"),
+                     storage_names::IntervalDays);
+    fields.add("mode", "Period", static_cast<long>(settings.mode), tellMode(settings.mode),
+               storage_names::ImmutabilityMode);
     return node;
 }
 
 Node visitDirectImmutability(const SDirectBackupImmutabilitySettings& settings, const Place& place)
 {
-    auto node = makeField("directBackupImmutabilitySettings", "Immutability of direct backups", "", "", place.line());
+    auto node = makeField("directBackupImmutabilitySettings", "Immutability of direct backups", "", "", place.origin());
     node.children.push_back(
         visitImmutability(settings.immutabilitySettings, place.child(storage_names::ImmutabilitySettings)));
     ElementFields fields(node, place);
     const auto days = settings.numberDaysForCapacityTierMoveOrArchiveTier;
-    fields.add("numberDaysForCapacityTierMoveOrArchiveTier", "Move to capacity or archive tier", util::toStr(days),
+    fields.add("numberDaysForCapacityTierMoveOrArchiveTier", "Move to capacity or archive tier", days,
                days == 0 ? "no number of days given" : "after " + countOfSigned(days, "day"),
                storage_names::NumberDaysForCapacityTierMoveOrArchiveTier);
     fields.addFlag("hasImmutableCapacityOrArchiveTierExtent", "Extents of that tier",

@@ -33,17 +33,22 @@ public:
     bool isServerForm() const noexcept { return m_isServerForm; }
     const Place& place() const noexcept { return m_place; }
 
-    int of(const char* attribute, const char* element) const
+    Origin of(const char* attribute, const char* element) const
     {
-        return m_isServerForm ? m_place.child(element).line() : m_place.lineOf(attribute);
+        return m_isServerForm ? m_place.child(element).origin() : m_place.originOf(attribute);
     }
 
-    int ofFilled(const char* attribute, const char* element) const
+    Origin ofFilled(const char* attribute, const char* element) const
     {
-        return m_isServerForm ? m_place.child(element).line() : m_place.lineOfFilled(attribute);
+        return m_isServerForm ? m_place.child(element).origin() : m_place.originOfFilled(attribute);
     }
 
-    int ofAgents(const char* attribute) const { return m_isServerForm ? 0 : m_place.lineOf(attribute); }
+    Origin ofAgents(const char* attribute) const { return m_isServerForm ? Origin() : m_place.originOf(attribute); }
+
+    Origin ofAgents(const char* attribute, const char* olderName) const
+    {
+        return m_isServerForm ? Origin() : m_place.originOf(attribute, {olderName});
+    }
 
 private:
     Place m_place;
@@ -108,21 +113,27 @@ Node visitBlockSize(const SBackupJobOptions& job, const Lines& lines)
                      lines.ofFilled(job_names::BlockSize, job_names::StgBlockSize));
 }
 
+// An older layout writes the number into an attribute of the element instead of its text.
+Origin originOfDeletedDataRule(const Lines& lines)
+{
+    const auto element = lines.place().child(job_names::RetainDays);
+    return element.has(job_names::RetainDays) ? asOlder(element.originOf(job_names::RetainDays)) : element.origin();
+}
+
 void visitRetention(const SBackupJobOptions& job, const Lines& lines, std::vector<Node>& fields)
 {
     auto retention = makeField("retentionType", "Retention", ERetentionType::ToStr(job.retentionType),
                                tellRetention(job), lines.of(job_names::RetentionType, job_names::RetentionType));
     fields.push_back(std::move(retention));
-    fields.push_back(makeDetail("maxPoints", "Restore points", util::toStr(job.maxPoints),
-                                countOf(job.maxPoints, "restore point"),
+    fields.push_back(makeDetail("maxPoints", "Restore points", job.maxPoints, countOf(job.maxPoints, "restore point"),
                                 lines.of(job_names::MaxPoints, job_names::RetainCycles)));
-    fields.push_back(makeDetail("maxDays", "Days", util::toStr(job.maxDays), countOf(job.maxDays, "day"),
+    fields.push_back(makeDetail("maxDays", "Days", job.maxDays, countOf(job.maxDays, "day"),
                                 lines.of(job_names::MaxDays, job_names::RetainDaysToKeep)));
     const auto& days = job.deletedVmDataRetentionDays;
-    fields.push_back(makeField("deletedVmDataRetentionDays", "Deleted data", days ? util::toStr(*days) : "",
+    fields.push_back(makeField("deletedVmDataRetentionDays", "Deleted data", days ? Value(*days) : "",
                                days ? "data of machines that vanished from the job is kept " + countOf(*days, "day")
                                     : "no rule for data of machines that vanished from the job",
-                               days ? lines.place().child(job_names::RetainDays).line() : 0));
+                               originOfDeletedDataRule(lines)));
 }
 
 void visitScripts(const SBackupJobOptions& job, const Lines& lines, std::vector<Node>& fields)
@@ -134,21 +145,15 @@ void visitScripts(const SBackupJobOptions& job, const Lines& lines, std::vector<
     script("postThawCommand", "Script after thawing", job.postThawCommand, job_names::PostthawCommand);
     const auto& areIgnored = job.ignoreFreezeThawFailures;
     fields.push_back(makeField("ignoreFreezeThawFailures", "Freeze and thaw failures",
-                               areIgnored ? flagText(*areIgnored) : "",
+                               areIgnored ? Value(*areIgnored) : "",
                                areIgnored ? (*areIgnored ? "ignored" : "not ignored") : "not set",
                                lines.ofAgents(job_names::IgnoreFreezeThawFailures)));
     const auto& timeout = job.freezeThawScriptsTimeout;
-    fields.push_back(makeField("freezeThawScriptsTimeout", "Freeze and thaw time-out",
-                               timeout ? util::toStr(*timeout) : "", timeout ? util::toStr(*timeout) : "not set",
+    fields.push_back(makeField("freezeThawScriptsTimeout", "Freeze and thaw time-out", timeout ? Value(*timeout) : "",
+                               timeout ? util::toStr(*timeout) : "not set",
                                lines.ofAgents(job_names::FreezeThawScriptsTimeout)));
     script("preJobCommand", "Script before the job", job.preJobCommand, job_names::PrejobCommand);
     script("postJobCommand", "Script after the job", job.postJobCommand, job_names::PostjobCommand);
-}
-
-int lineOfSnapshotMode(const Lines& lines)
-{
-    const int current = lines.ofAgents(job_names::SnapshotMode);
-    return current != 0 ? current : lines.ofAgents(job_names::IsSnapshotRequired);
 }
 
 Node visitProductSpecific(const SBackupJobOptions& job, const Lines& lines)
@@ -177,9 +182,8 @@ Node tellOtherForm(bool isServerForm)
 {
     const std::string fields = OnlyInAgentForm;
     if (isServerForm)
-        return makeField("notCarried", "Not in this form", "", fields, 0);
-    return makeField("notCarried", "Only in this form", "", fields + "; the managing server's form cannot carry them",
-                     0);
+        return makeField("notCarried", "Not in this form", "", fields);
+    return makeField("notCarried", "Only in this form", "", fields + "; the managing server's form cannot carry them");
 }
 
 } // namespace
@@ -187,18 +191,16 @@ Node tellOtherForm(bool isServerForm)
 Node visitIndexing(const SIndexingOptions& indexing, const Place& owner)
 {
     const auto element = owner.child(job_names::Indexing);
-    int line = element.line();
-    for (const auto* older : {job_names::IndexExcept, job_names::IndexOnly, job_names::IndexAll})
-    {
-        if (line == 0)
-            line = owner.lineOf(older);
-    }
-    auto node = makeField("indexing", "Indexing", "", tellIndexing(indexing), line);
+    auto origin = element.origin();
+    if (!element.isThere())
+        origin =
+            owner.originOf(job_names::Indexing, {job_names::IndexExcept, job_names::IndexOnly, job_names::IndexAll});
+    auto node = makeField("indexing", "Indexing", "", tellIndexing(indexing), origin);
     const auto type = EIndexingType::ToStr(indexing.type);
     node.children.push_back(
-        makeDetail("type", "Type", type, type, element.isThere() ? element.lineOf(job_names::Type) : line));
+        makeDetail("type", "Type", type, type, element.isThere() ? element.originOf(job_names::Type) : origin));
     node.children.push_back(makeDetail("folders", "Folders", indexing.folders, textOr(indexing.folders, "none"),
-                                       element.isThere() ? element.lineOf(job_names::Folders) : line));
+                                       element.isThere() ? element.originOf(job_names::Folders) : origin));
     return node;
 }
 
@@ -206,20 +208,21 @@ Node visitJobOptions(const SBackupJobOptions& job, const Place& place, bool isSe
 {
     const Lines lines(place, isServerForm);
     auto node = makeField("jobOptions", "Job options", "",
-                          isServerForm ? "in the managing server's form" : "in the agent's form", place.line());
+                          isServerForm ? "in the managing server's form" : "in the agent's form", place.origin());
     auto& fields = node.children;
     fields.push_back(visitCompression(job, lines));
     fields.push_back(visitBlockSize(job, lines));
     visitRetention(job, lines, fields);
-    fields.push_back(makeField("dedupEnabled", "Deduplication", flagText(job.dedupEnabled), onOrOff(job.dedupEnabled),
+    fields.push_back(makeField("dedupEnabled", "Deduplication", job.dedupEnabled, onOrOff(job.dedupEnabled),
                                lines.of(job_names::IsDedupEnabled, job_names::EnableDeduplication)));
     const auto firstOfAgent = fields.size();
     fields.push_back(makeField("snapshotMode", "Snapshot", ESnapshotMode::ToString(job.snapshotMode),
-                               tellSnapshot(job.snapshotMode), lineOfSnapshotMode(lines)));
+                               tellSnapshot(job.snapshotMode),
+                               lines.ofAgents(job_names::SnapshotMode, job_names::IsSnapshotRequired)));
     visitScripts(job, lines, fields);
-    fields.push_back(makeField("retryCount", "Retries", util::toStr(job.retryCount), tellRetries(job),
-                               lines.ofAgents(job_names::RetryCount)));
-    fields.push_back(makeDetail("retryTimeoutMs", "Time between retries", util::toStr(job.retryTimeoutMs),
+    fields.push_back(
+        makeField("retryCount", "Retries", job.retryCount, tellRetries(job), lines.ofAgents(job_names::RetryCount)));
+    fields.push_back(makeDetail("retryTimeoutMs", "Time between retries", job.retryTimeoutMs,
                                 duration(job.retryTimeoutMs), lines.ofAgents(job_names::RetryTimeOutMs)));
     const auto owner = isServerForm ? place.none() : place;
     fields.push_back(visitIndexing(job.indexing, owner));

@@ -200,7 +200,8 @@ Node describeNextDays(const CScheduleOptions& schedule, const BackupWindow* wind
 {
     const auto& start = schedule.GetJobStartOptions();
     const auto& calendar = start.GetCalendar();
-    auto node = makeField("next", "", "", tellTitle(schedule, from), 0);
+    auto node = makeField("next", "", "", tellTitle(schedule, from));
+    node.isList = true;
     for (auto date = firstDay(start, from); date && node.children.size() < count;
          date = calendar.GetNextScheduleDateFromDate(*date))
     {
@@ -208,9 +209,9 @@ Node describeNextDays(const CScheduleOptions& schedule, const BackupWindow* wind
         const auto starts = startsOf(calendar, midnight(from), day);
         if (calendar.IsSchedulePeriodically() && starts.moments.empty())
             continue;
-        auto row = makeField("day", "", isoDate(day), "", 0);
+        auto row = makeField("day", "", isoDate(day), "");
         const auto add = [&row](const char* name, const char* label, const std::string& words) {
-            row.children.push_back(makeField(name, label, words, words, 0));
+            row.children.push_back(makeField(name, label, words, words));
         };
         add("date", "Date", isoDate(day));
         add("weekDay", "Day", weekDay(day));

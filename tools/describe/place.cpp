@@ -4,15 +4,29 @@
 
 namespace describe
 {
+namespace
+{
+
+Origin found(int line, std::string name)
+{
+    return {line != 0 ? EOrigin::Document : EOrigin::Default, line, std::move(name)};
+}
+
+} // namespace
 
 Place::Place(const xmlpp::CXmlDocument& document, std::optional<xmlpp::CXmlNode> node)
-    : m_document(document), m_node(std::move(node))
+    : Place(document, node, node ? node->GetName() : std::string())
 {
 }
 
-int Place::line() const
+Place::Place(const xmlpp::CXmlDocument& document, std::optional<xmlpp::CXmlNode> node, std::string name)
+    : m_document(document), m_node(std::move(node)), m_name(std::move(name))
 {
-    return m_node ? m_node->GetLine() : 0;
+}
+
+Origin Place::origin() const
+{
+    return found(m_node ? m_node->GetLine() : 0, m_name);
 }
 
 bool Place::has(xmlpp::CXmlName attribute) const
@@ -20,14 +34,25 @@ bool Place::has(xmlpp::CXmlName attribute) const
     return m_node && m_node->HasAttribute(attribute);
 }
 
-int Place::lineOf(xmlpp::CXmlName attribute) const
+Origin Place::originOf(xmlpp::CXmlName attribute) const
 {
-    return has(attribute) ? m_document.LastReadLine() : 0;
+    return found(has(attribute) ? m_document.LastReadLine() : 0, attribute.c_str());
 }
 
-int Place::lineOfFilled(xmlpp::CXmlName attribute) const
+Origin Place::originOf(xmlpp::CXmlName attribute, std::initializer_list<xmlpp::CXmlName> olderNames) const
 {
-    return textOf(attribute).empty() ? 0 : lineOf(attribute);
+    auto origin = originOf(attribute);
+    for (auto older = olderNames.begin(); !origin.isThere() && older != olderNames.end(); ++older)
+    {
+        if (has(*older))
+            origin = asOlder(originOf(*older));
+    }
+    return origin;
+}
+
+Origin Place::originOfFilled(xmlpp::CXmlName attribute) const
+{
+    return textOf(attribute).empty() ? found(0, attribute.c_str()) : originOf(attribute);
 }
 
 std::string Place::textOf(xmlpp::CXmlName attribute) const
@@ -37,7 +62,7 @@ std::string Place::textOf(xmlpp::CXmlName attribute) const
 
 Place Place::child(xmlpp::CXmlName name) const
 {
-    return Place(m_document, m_node ? m_node->FindChildNode(name) : std::nullopt);
+    return Place(m_document, m_node ? m_node->FindChildNode(name) : std::nullopt, name.c_str());
 }
 
 std::vector<Place> Place::children(xmlpp::CXmlName name) const
@@ -48,6 +73,13 @@ std::vector<Place> Place::children(xmlpp::CXmlName name) const
     for (const auto& node : m_node->GetChildNodes(name))
         places.emplace_back(m_document, node);
     return places;
+}
+
+Origin asOlder(Origin origin)
+{
+    if (origin.isThere())
+        origin.kind = EOrigin::Older;
+    return origin;
 }
 
 } // namespace describe

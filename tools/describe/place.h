@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -7,10 +8,12 @@
 #include <zelplatform/xmlpp/xml_document.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+#include "node.h"
+
 namespace describe
 {
 
-/// An element of a document, or one that is missing there: says on which lines its parts stand, 0 for what is missing.
+/// An element of a document, or one that is missing there: says where its parts stand.
 class Place
 {
 public:
@@ -18,16 +21,19 @@ public:
 
     bool isThere() const noexcept { return m_node.has_value(); }
 
-    /// The line of the element.
-    int line() const;
+    /// The element itself, under the name that it was looked for.
+    Origin origin() const;
 
     bool has(xmlpp::CXmlName attribute) const;
 
-    /// The line of the attribute.
-    int lineOf(xmlpp::CXmlName attribute) const;
+    /// The attribute.
+    Origin originOf(xmlpp::CXmlName attribute) const;
 
-    /// The line of the attribute unless its text is empty.
-    int lineOfFilled(xmlpp::CXmlName attribute) const;
+    /// The attribute, or the first of its older names that is there when it is missing.
+    Origin originOf(xmlpp::CXmlName attribute, std::initializer_list<xmlpp::CXmlName> olderNames) const;
+
+    /// The attribute unless its text is empty, which counts as missing.
+    Origin originOfFilled(xmlpp::CXmlName attribute) const;
 
     /// The attribute's text; empty when it is missing.
     std::string textOf(xmlpp::CXmlName attribute) const;
@@ -42,8 +48,14 @@ public:
     Place none() const { return Place(m_document, std::nullopt); }
 
 private:
+    Place(const xmlpp::CXmlDocument& document, std::optional<xmlpp::CXmlNode> node, std::string name);
+
     xmlpp::CXmlDocument m_document;
     std::optional<xmlpp::CXmlNode> m_node;
+    std::string m_name;
 };
+
+/// The same place of an older layout.
+Origin asOlder(Origin origin);
 
 } // namespace describe

@@ -10,9 +10,9 @@ namespace describe
 
 Node visitSqlVariant(const zelplatform::model::structs::SSqlVariant& variant, const Place& place)
 {
-    auto node = makeField("sqlVariant", "SQL value", "", "", place.line());
+    auto node = makeField("sqlVariant", "SQL value", "", "", place.origin());
     ElementFields fields(node, place);
-    fields.add("type", "Type", util::toStr(variant.type), "number " + util::toStr(variant.type), record_names::Type);
+    fields.add("type", "Type", variant.type, "number " + util::toStr(variant.type), record_names::Type);
     fields.add("value", "Value", variant.value, variant.value.empty() ? "empty" : variant.value, record_names::Value);
     return node;
 }

@@ -23,11 +23,12 @@ std::string tellChainLength(int length)
 
 Node visitRepositoryLimitations(const CRepositoryLimitationsSpec& limitations, const Place& place)
 {
-    auto node = makeField("repositoryLimitations", "Repository limitations", "", "", place.line());
+    auto node = makeField("repositoryLimitations", "Repository limitations", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addIdentifier("repositoryId", "Repository", limitations.GetRepositoryId(), repository_names::RepositoryId);
-    const auto mode = util::toStr(limitations.GetBackupMode());
-    fields.add("backupMode", "Backup mode", mode, "number " + mode + " of the job model", repository_names::BackupMode);
+    const Value mode(static_cast<long>(limitations.GetBackupMode()));
+    fields.add("backupMode", "Backup mode", mode, "number " + mode.text + " of the job model",
+               repository_names::BackupMode);
     fields.addFlag("fullBackupEnabled", "Active full", limitations.IsFullBackupEnabled(), "allowed", "not allowed",
                    repository_names::FullBackupEnabled);
     fields.addFlag("compactFullEnabled", "Compact of full", limitations.GetIsCompactFullEnabled(), "allowed",
@@ -37,7 +38,7 @@ Node visitRepositoryLimitations(const CRepositoryLimitationsSpec& limitations, c
                    repository_names::TransformIncrementsToSynthetic);
     fields.addFlag("transformFullToSynthetic", "Full backup", limitations.ShouldTransformFullToSynthetic(),
                    "transformed into a synthetic one", "not transformed", repository_names::TransformFullToSynthetic);
-    fields.add("chainLength", "Backup chain", util::toStr(limitations.GetChainLength()),
+    fields.add("chainLength", "Backup chain", limitations.GetChainLength(),
                tellChainLength(limitations.GetChainLength()), repository_names::ChainLength);
     return node;
 }

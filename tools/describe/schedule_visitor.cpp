@@ -81,26 +81,26 @@ void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::v
 {
     const auto type = calendar.GetScheduleType();
     fields.push_back(
-        makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), place.lineOf(schedule_names::Type)));
+        makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), place.originOf(schedule_names::Type)));
     const auto timeElement = place.child(schedule_names::Time);
     const auto time = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
     fields.push_back(makeDetail("time", calendar.IsSchedulePeriodically() ? "Period" : "Time of day", time,
                                 textOr(time, "not set"),
-                                (timeElement.isThere() ? timeElement : place).lineOf(schedule_names::Hours)));
+                                (timeElement.isThere() ? timeElement : place).originOf(schedule_names::Hours)));
     const auto& weekMask = calendar.GetWeekMask();
     fields.push_back(makeDetail("weekMask", "Week days", weekMask.ToString(",", false),
                                 textOr(weekMask.ToLogStr(false), "none"),
-                                place.child(schedule_names::WeekMask).line()));
+                                place.child(schedule_names::WeekMask).origin()));
     const auto& monthMask = calendar.GetMonthMask();
     fields.push_back(makeDetail("monthMask", "Months", monthMask.ToString(",", false),
                                 textOr(monthMask.ToLogStr(false), "none"),
-                                place.child(schedule_names::MonthMask).line()));
+                                place.child(schedule_names::MonthMask).origin()));
     const auto number = EWeekDayNumber::ToStr(calendar.GetWeekDayNumber());
     fields.push_back(makeDetail("weekDayNumber", "Which of the week days", number, number,
-                                place.lineOf(schedule_names::WeekDayNumber)));
+                                place.originOf(schedule_names::WeekDayNumber)));
     const auto& day = calendar.GetDayOfMonth();
-    fields.push_back(makeDetail("dayOfMonth", "Day of the month", util::toStr(day.Get()), tellDayOfMonth(day),
-                                place.lineOf(schedule_names::DayOfMonth)));
+    fields.push_back(makeDetail("dayOfMonth", "Day of the month", day.Get(), tellDayOfMonth(day),
+                                place.originOf(schedule_names::DayOfMonth)));
 }
 
 // The library's own line for logs writes the time of day as a duration; people who compare logs look for it.
@@ -109,7 +109,7 @@ try
 {
     const auto text = calendar.ToLogStr(false);
     if (isEnabled && text != tellCalendar(calendar))
-        fields.push_back(makeField("logText", "In the log", text, text, 0));
+        fields.push_back(makeField("logText", "In the log", text, text));
 }
 catch (const std::exception&)
 {
@@ -134,11 +134,11 @@ Node visitStart(const CStartJobScheduleOptions& start, const Place& parent)
     const auto place = parent.child(schedule_names::Schedule);
     const auto& calendar = start.GetCalendar();
     auto node =
-        makeField("jobStart", "Start", "", tellOptions(start.IsEnabled(), calendar, place, "starts "), place.line());
+        makeField("jobStart", "Start", "", tellOptions(start.IsEnabled(), calendar, place, "starts "), place.origin());
     const bool isOld = place.isThere() && isOldLayout(place);
-    node.children.push_back(
-        makeDetail("isEnabled", "Enabled", flagText(start.IsEnabled()), flagText(start.IsEnabled()),
-                   isOld ? parent.lineOf(schedule_names::Schedule) : place.lineOf(schedule_names::IsEnabled)));
+    node.children.push_back(makeDetail("isEnabled", "Enabled", start.IsEnabled(), flagText(start.IsEnabled()),
+                                       isOld ? asOlder(parent.originOf(schedule_names::Schedule))
+                                             : place.originOf(schedule_names::IsEnabled)));
     visitCalendar(calendar, place, node.children);
     addLogText(calendar, start.IsEnabled(), node.children);
     return node;
@@ -148,9 +148,9 @@ Node visitFull(const CFullBackupOptions& full, const char* name, const char* lab
 {
     const auto place = parent.child(CFullBackupOptions::GetRootNodeName(full.GetType()));
     const auto& calendar = full.GetCalendar();
-    auto node = makeField(name, label, "", tellOptions(full.IsEnabled(), calendar, place, ""), place.line());
-    node.children.push_back(makeDetail("isEnabled", "Enabled", flagText(full.IsEnabled()), flagText(full.IsEnabled()),
-                                       place.lineOf(schedule_names::IsEnabled)));
+    auto node = makeField(name, label, "", tellOptions(full.IsEnabled(), calendar, place, ""), place.origin());
+    node.children.push_back(makeDetail("isEnabled", "Enabled", full.IsEnabled(), flagText(full.IsEnabled()),
+                                       place.originOf(schedule_names::IsEnabled)));
     visitCalendar(calendar, place, node.children);
     addLogText(calendar, full.IsEnabled(), node.children);
     return node;
@@ -170,11 +170,11 @@ catch (const std::exception& cause)
 
 Node visitSchedule(const CScheduleOptions& schedule, const Place& parent)
 {
-    auto node = makeField("schedule", "Schedule", "", "", parent.line());
+    auto node = makeField("schedule", "Schedule", "", "", parent.origin());
     node.children.push_back(visitStart(schedule.GetJobStartOptions(), parent));
     node.children.push_back(visitFull(schedule.GetActiveFullOptions(), "activeFull", "Active full", parent));
     node.children.push_back(visitFull(schedule.GetSyntheticFullOptions(), "syntheticFull", "Synthetic full", parent));
-    node.children.push_back(makeField("backupWindow", "Window", "", "in a document of its own, if there is one", 0));
+    node.children.push_back(makeField("backupWindow", "Window", "", "in a document of its own, if there is one"));
     return node;
 }
 

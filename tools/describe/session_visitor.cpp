@@ -51,20 +51,20 @@ std::string numberOf(const CSize& size)
 
 Node visitSessionDetails(const JobSessionDetails& details, const Place& place)
 {
-    auto node = makeField("jobSessionDetails", "Job session", "", "", place.line());
+    auto node = makeField("jobSessionDetails", "Job session", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addText("repositoryName", "Repository", details.repositoryName, JobSessionDetails::m_xml_RepoName);
     fields.add("backupType", "Kind of backup", OibAlgorithm::toStr(details.backupType),
                tellBackupType(details.backupType), JobSessionDetails::m_xml_BackupType);
     fields.addIdentifier("restorePointId", "Restore point", details.restorePointId, JobSessionDetails::m_xml_OibId);
-    fields.add("repositoryFreeSpace", "Free space", util::toStr(details.repositoryFreeSpace),
-               tellSpace(details.repositoryFreeSpace), JobSessionDetails::m_xml_RepoFreeSpace);
-    fields.add("repositoryTotalSpace", "Total space", util::toStr(details.repositoryTotalSpace),
+    fields.add("repositoryFreeSpace", "Free space", details.repositoryFreeSpace, tellSpace(details.repositoryFreeSpace),
+               JobSessionDetails::m_xml_RepoFreeSpace);
+    fields.add("repositoryTotalSpace", "Total space", details.repositoryTotalSpace,
                tellSpace(details.repositoryTotalSpace), JobSessionDetails::m_xml_RepoTotalSpace);
-    fields.addText("initialRetriesNumber", "Retries at the start", util::toStr(details.initialRetriesNumber),
-                   JobSessionDetails::m_xml_InitialRetriesNumber);
-    fields.addText("currentAttemptNumber", "Current attempt", util::toStr(details.currentAttemptNumber),
-                   JobSessionDetails::m_xml_CurrentAttemptNumber);
+    fields.addNumber("initialRetriesNumber", "Retries at the start", details.initialRetriesNumber,
+                     JobSessionDetails::m_xml_InitialRetriesNumber);
+    fields.addNumber("currentAttemptNumber", "Current attempt", details.currentAttemptNumber,
+                     JobSessionDetails::m_xml_CurrentAttemptNumber);
     fields.addFlag("isJobAwaitingForRetry", "Waits for a retry", details.isJobAwaitingForRetry, "yes", "no",
                    JobSessionDetails::m_xml_IsJobAwaitingForRetry);
     return node;
@@ -74,13 +74,13 @@ Node visitSessionProgress(const SJobSessionProgressDetails& progress, const Plac
 {
     using Names = SJobSessionProgressDetails;
     auto node = makeField("jobSessionProgressDetails", "Progress of a job session", "",
-                          progress.IsEmpty() ? "nothing yet" : "", place.line());
+                          progress.IsEmpty() ? "nothing yet" : "", place.origin());
     ElementFields fields(node, place);
     const auto size = [&](const char* name, const char* label, const CSize& bytes, const char* attribute) {
         fields.add(name, label, numberOf(bytes), bytes.ToNBytesStr(), attribute);
     };
     const auto load = [&](const char* name, const char* label, int percent, const char* attribute) {
-        fields.add(name, label, util::toStr(percent), util::toStr(percent) + " %", attribute);
+        fields.add(name, label, percent, util::toStr(percent) + " %", attribute);
     };
     size("totalSize", "Total", progress.totalSize, Names::m_xml_TotalSize);
     size("totalUsedSize", "Used of it", progress.totalUsedSize, Names::m_xml_TotalUsedSize);
@@ -103,11 +103,11 @@ Node visitSessionProgress(const SJobSessionProgressDetails& progress, const Plac
 
 Node visitTaskLogRecord(const STaskLogRecord& record, const Place& place)
 {
-    auto node = makeField("taskLogRecord", "Task log record", "", "", place.line());
+    auto node = makeField("taskLogRecord", "Task log record", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addText("status", "Severity", record.status, session_names::Status);
-    fields.addText("ordinalId", "Position in the log", util::toStr(record.ordinalId), session_names::OrdinalId);
-    fields.addText("updateUsn", "Update number", util::toStr(record.updateUsn), session_names::UpdateUsn);
+    fields.addNumber("ordinalId", "Position in the log", record.ordinalId, session_names::OrdinalId);
+    fields.addNumber("updateUsn", "Update number", record.updateUsn, session_names::UpdateUsn);
     fields.addText("title", "Title", record.title, session_names::Title);
     fields.addText("description", "Description", record.description, session_names::Description);
     fields.addMoment("updateTime", "Updated", record.updateTime, session_names::UpdateTime);
@@ -120,7 +120,7 @@ Node visitTaskLogRecord(const STaskLogRecord& record, const Place& place)
 Node visitMountSession(const SMountSessionDetails& details, const Place& place)
 {
     auto node = makeField("mountSessionDetails", "Mount session", "", details.IsEmpty() ? "nothing is mounted" : "",
-                          place.line());
+                          place.origin());
     ElementFields fields(node, place);
     fields.addText("mountPoint", "Mount point", details.mountPoint, session_names::MountPoint);
     fields.addIdentifier("restorePointId", "Restore point", details.restorePointId, session_names::OibId);
@@ -131,11 +131,12 @@ Node visitJobState(const SBackupJobState& state, const Place& place)
 {
     const bool isFirst = isFirstLayout(place);
     auto node = makeField("backupJobState", "State of a backup job", "", isFirst ? "in the layout of version 1" : "",
-                          place.line());
-    const auto mode = util::toStr(state.objectStorageOperationMode);
-    ElementFields(node, place)
-        .add("objectStorageOperationMode", "Object storage mode", mode, "number " + mode,
-             isFirst ? session_names::ObjectStorageBackupMode : session_names::ObjectStorageOperationMode);
+                          place.origin());
+    const Value mode(static_cast<long>(state.objectStorageOperationMode));
+    const auto origin = place.originOf(session_names::ObjectStorageOperationMode);
+    node.children.push_back(
+        makeField("objectStorageOperationMode", "Object storage mode", mode, "number " + mode.text,
+                  isFirst ? asOlder(place.originOf(session_names::ObjectStorageBackupMode)) : origin));
     return node;
 }
 

@@ -25,7 +25,7 @@ constexpr const char* SecretAccessKey = "Secret access key";
 
 Node visitProxy(const std::optional<SAmazonS3Proxy>& proxy, const Place& place)
 {
-    auto node = makeField("proxy", "Proxy", "", proxy ? "" : "none", place.line());
+    auto node = makeField("proxy", "Proxy", "", proxy ? "" : "none", place.origin());
     if (!proxy)
         return node;
     ElementFields fields(node, place);
@@ -37,7 +37,7 @@ Node visitProxy(const std::optional<SAmazonS3Proxy>& proxy, const Place& place)
 
 Node visitEndpoint(const SAmazonS3Endpoint& endpoint, const Place& place)
 {
-    auto node = makeField("endpoint", "Endpoint", "", "", place.line());
+    auto node = makeField("endpoint", "Endpoint", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addAddress("apiEndpoint", ServiceAddress, endpoint.apiEndpoint, storage_names::ApiEndpoint);
     fields.addText("arnString", "Resource name", endpoint.arnString, storage_names::ArnString);
@@ -62,7 +62,7 @@ void addLastUpdate(const SAmazonS3Credentials& credentials, const Place& place, 
 
 Node visitCredentials(const SAmazonS3Credentials& credentials, const Place& place)
 {
-    auto node = makeField("credentials", "Credentials", "", "", place.line());
+    auto node = makeField("credentials", "Credentials", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addText("accessKeyId", AccessKey, credentials.accessKeyId, storage_names::AccessKeyId);
     fields.addSecret("secretAccessKey", SecretAccessKey, credentials.secretAccessKey, storage_names::SecretAccessKey);
@@ -75,7 +75,7 @@ Node visitCredentials(const SAmazonS3Credentials& credentials, const Place& plac
 
 Node visitContainerS3(const SAmazonS3SpecificParams& params, const Place& place)
 {
-    auto node = makeField("s3Params", "S3", "", "", place.line());
+    auto node = makeField("s3Params", "S3", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addAddress("apiEndpoint", ServiceAddress, params.endpoint.apiEndpoint, repository_names::S3ApiEndpoint);
     fields.addText("accessKeyId", AccessKey, params.credentials.accessKeyId, repository_names::S3AccessKeyId);
@@ -88,7 +88,7 @@ Node visitContainerS3(const SAmazonS3SpecificParams& params, const Place& place)
 
 Node visitS3Params(const SAmazonS3SpecificParams& params, const Place& place)
 {
-    auto node = makeField("s3Params", "S3 parameters", "", "", place.line());
+    auto node = makeField("s3Params", "S3 parameters", "", "", place.origin());
     node.children.push_back(visitEndpoint(params.endpoint, place.child(storage_names::Endpoint)));
     node.children.push_back(visitCredentials(params.credentials, place.child(storage_names::Credentials)));
     return node;
@@ -96,7 +96,7 @@ Node visitS3Params(const SAmazonS3SpecificParams& params, const Place& place)
 
 Node visitCloudContainer(const SExternalRepoCloudContainer& container, const Place& place)
 {
-    auto node = makeField("cloudContainer", "Cloud container", "", "", place.line());
+    auto node = makeField("cloudContainer", "Cloud container", "", "", place.origin());
     ElementFields fields(node, place);
     fields.addText("regionId", "Region", container.regionId, repository_names::RegionId);
     // Told from the document: readers leave the name out of the record.

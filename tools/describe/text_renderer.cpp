@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include <zelplatform/util/util.h>
+
 #include "terminal_text.h"
 #include "words.h"
 
@@ -18,6 +20,7 @@ constexpr std::size_t NarrowestWords = 20;
 
 struct Line
 {
+    std::string origin;
     std::string label;
     std::string words;
 };
@@ -32,8 +35,27 @@ std::size_t columnsOf(std::string_view text)
 std::string shownWords(const Node& node, const TextStyle& style)
 {
     if (node.secret && !style.showsSecrets)
-        return "(hidden, " + countOf(columnsOf(node.words), "character") + ')';
+        return hiddenWords(node);
     return printable(shortened(node.words, style.longestWords));
+}
+
+std::string originOf(const Node& node)
+{
+    switch (node.origin.kind)
+    {
+    case EOrigin::None: return {};
+    case EOrigin::Default: return "default";
+    case EOrigin::Document:
+    case EOrigin::Older: break;
+    }
+    return util::toStr(node.origin.line);
+}
+
+std::string withOlderName(const std::string& words, const Origin& origin)
+{
+    if (origin.kind != EOrigin::Older)
+        return words;
+    return words + (words.empty() ? "" : " ") + "(older form: " + printable(origin.name) + ')';
 }
 
 void collectLines(const std::vector<Node>& nodes, std::size_t depth, const TextStyle& style, std::vector<Line>& lines)
@@ -42,7 +64,8 @@ void collectLines(const std::vector<Node>& nodes, std::size_t depth, const TextS
     {
         if (node.isDetail)
             continue;
-        lines.push_back({std::string(depth * Indent, ' ') + printable(node.label), shownWords(node, style)});
+        lines.push_back({originOf(node), std::string(depth * Indent, ' ') + printable(node.label),
+                         withOlderName(shownWords(node, style), node.origin)});
         collectLines(node.children, depth + 1, style, lines);
     }
 }
@@ -52,6 +75,30 @@ std::string paddedTo(std::string text, std::size_t width)
     const auto columns = columnsOf(text);
     return columns < width ? text.append(width - columns, ' ') : text;
 }
+
+bool hasOrigin(const Node& node)
+{
+    return node.origin.kind != EOrigin::None || std::any_of(node.children.begin(), node.children.end(), hasOrigin);
+}
+
+/// The column left of the fields, right-aligned. A tree that came from no document has none.
+class Margin
+{
+public:
+    explicit Margin(const Node& root) : m_width(hasOrigin(root) ? std::string("default").size() : 0) {}
+
+    std::size_t width() const noexcept { return m_width == 0 ? 0 : m_width + Gap; }
+
+    std::string with(const std::string& text) const
+    {
+        if (m_width == 0)
+            return {};
+        return std::string(m_width - std::min(m_width, text.size()), ' ') + text + std::string(Gap, ' ');
+    }
+
+private:
+    std::size_t m_width;
+};
 
 std::string withoutTrailingBlanks(std::string text)
 {
@@ -94,16 +141,27 @@ std::string renderTitle(const Node& node, const TextStyle& style)
 
 } // namespace
 
+std::string hiddenWords(const Node& node)
+{
+    return "(hidden, " + countOf(columnsOf(node.words), "character") + ')';
+}
+
 std::string renderText(const Node& node, const TextStyle& style)
 {
     std::vector<Line> lines;
     collectLines(node.children, 1, style, lines);
-    std::size_t start = 0;
+    const Margin margin(node);
+    std::size_t labels = 0;
     for (const auto& line : lines)
-        start = std::max(start, columnsOf(line.label) + Gap);
-    std::string text = renderTitle(node, style);
+        labels = std::max(labels, columnsOf(line.label) + Gap);
+    auto text = margin.with("line") + renderTitle(node, style);
     for (const auto& line : lines)
-        text += withoutTrailingBlanks(paddedTo(line.label, start) + broken(line.words, start, style)) + '\n';
+    {
+        const auto start = margin.width() + labels;
+        text += withoutTrailingBlanks(margin.with(line.origin) + paddedTo(line.label, labels) +
+                                      broken(line.words, start, style)) +
+                '\n';
+    }
     return text;
 }
 

@@ -17,8 +17,12 @@ struct TextStyle
     std::size_t longestWords = 4096; ///< bytes of one field's words; the middle of longer ones is left out
 };
 
-/// The tree as aligned lines, a field a line, without the fields that the words above tell already. Everything that
-/// could act on a terminal is escaped. Ends with a line break.
+/// What stands in place of a secret: "(hidden, 12 characters)".
+std::string hiddenWords(const Node& node);
+
+/// The tree as aligned lines, a field a line, without the fields that the words above tell already. The margin tells
+/// where each came from: the line of the document, or that it is a default. Everything that could act on a terminal is
+/// escaped. Ends with a line break.
 std::string renderText(const Node& node, const TextStyle& style);
 
 /// The children of the node as a table: a row for each, a column for each of its fields. Columns that are empty in

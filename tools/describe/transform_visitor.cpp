@@ -37,7 +37,7 @@ void addIdentifiers(const TSpec& spec, ElementFields& fields)
     fields.addIdentifier("sessionId", "Session", spec.GetSessionId(), transform_names::Id);
     fields.addIdentifier("backupId", "Backup", spec.GetBackupId(), transform_names::BackupId);
     const auto operation = spec.GetTrasformOperationType();
-    fields.add("operationType", "Operation", util::toStr(operation), tellOperation(operation),
+    fields.add("operationType", "Operation", static_cast<long>(operation), tellOperation(operation),
                transform_names::OperationType);
 }
 
@@ -45,13 +45,14 @@ void addIdentifiers(const TSpec& spec, ElementFields& fields)
 Node visitPoints(const char* name, const char* label, const std::vector<guid::guid_t>& points, const Place& list)
 {
     const auto count = countOf(points.size(), "restore point") + (points.size() > 1 ? ", in this order" : "");
-    auto node = makeField(name, label, "", points.empty() ? "none" : count, list.line());
+    auto node = makeField(name, label, "", points.empty() ? "none" : count, list.origin());
+    node.isList = true;
     const auto places = list.children(transform_names::Guid);
     for (std::size_t i = 0; i < points.size(); ++i)
     {
-        const int line = i < places.size() ? places[i].line() : 0;
+        const auto origin = i < places.size() ? places[i].origin() : list.origin();
         node.children.push_back(
-            makeField("point", util::toStr(i + 1), util::toStr(points[i]), identifierOf(points[i]), line));
+            makeField("point", util::toStr(i + 1), util::toStr(points[i]), identifierOf(points[i]), origin));
     }
     return node;
 }
@@ -63,9 +64,9 @@ Node visitLastPoints(const std::vector<guid::guid_t>& points, const Place& place
     auto node = visitPoints("lastIncrementPoints", "Last increments", points, list);
     if (list.isThere())
         return node;
-    node.line = place.lineOf(transform_names::LastIncrementPointId);
+    node.origin = asOlder(place.originOf(transform_names::LastIncrementPointId));
     for (auto& point : node.children)
-        point.line = node.line;
+        point.origin = place.originOf(transform_names::LastIncrementPointId);
     return node;
 }
 
@@ -73,11 +74,11 @@ Node visitLastPoints(const std::vector<guid::guid_t>& points, const Place& place
 
 Node visitDeletePointTransform(const CTransformSpec& spec, const Place& place)
 {
-    auto node = makeField("transformSpec", "Delete-point transform", "", "", place.line());
+    auto node = makeField("transformSpec", "Delete-point transform", "", "", place.origin());
     ElementFields fields(node, place);
     addIdentifiers(spec, fields);
-    const auto type = util::toStr(spec.GetTransformType());
-    fields.add("transformType", "Kind of transform", type, "number " + type, transform_names::TransformType);
+    const Value type(static_cast<long>(spec.GetTransformType()));
+    fields.add("transformType", "Kind of transform", type, "number " + type.text, transform_names::TransformType);
     fields.addFlag("integrityCheckEnabled", "Integrity check", spec.IsIntegrityCheckEnabled(), "on", "off",
                    transform_names::EnableIntegrityChecks);
     node.children.push_back(
@@ -87,7 +88,7 @@ Node visitDeletePointTransform(const CTransformSpec& spec, const Place& place)
 
 Node visitSyntheticFullTransform(const CCreateSyntheticFullSpec& spec, const Place& place)
 {
-    auto node = makeField("createSyntheticFullSpec", "Synthetic full transform", "", "", place.line());
+    auto node = makeField("createSyntheticFullSpec", "Synthetic full transform", "", "", place.origin());
     ElementFields fields(node, place);
     addIdentifiers(spec, fields);
     node.children.push_back(visitLastPoints(spec.GetLastIncrementPoints(), place));
@@ -97,7 +98,7 @@ Node visitSyntheticFullTransform(const CCreateSyntheticFullSpec& spec, const Pla
 
 Node visitGfsSyntheticFullTransform(const CCreateGfsSyntheticFullSpec& spec, const Place& place)
 {
-    auto node = makeField("createGfsSyntheticFullSpec", "GFS synthetic full transform", "", "", place.line());
+    auto node = makeField("createGfsSyntheticFullSpec", "GFS synthetic full transform", "", "", place.origin());
     ElementFields fields(node, place);
     addIdentifiers(spec, fields);
     fields.addText("jobTargetFile", "Target file", spec.GetJobTargetFile(), transform_names::JobTargetFile);

@@ -61,21 +61,21 @@ std::string tellKind(const DayHourMatrix& matrix)
 Node visitWindow(const BackupWindow& window, const Place& place)
 {
     const auto& matrix = window.getMatrix();
-    auto node = makeField("backupWindow", "Backup window", "", tellKind(matrix), place.line());
+    auto node = makeField("backupWindow", "Backup window", "", tellKind(matrix), place.origin());
     const auto days = place.child(BackupWindow::DaysTag);
     for (const auto day : DaysFromMonday)
     {
         const auto name = EDayOfWeek::ToStr(day);
         node.children.push_back(makeField(util::tolower(name), name, window.getIntervals(day), tellDay(matrix, day),
-                                          days.child(name).line()));
+                                          days.child(name).origin()));
     }
     const auto kind = matrix.getScheduleWindowKind();
     node.children.push_back(
-        makeDetail("kind", "Kind", util::toStr(kind), tellKind(matrix), place.lineOf(BackupWindow::KindTag)));
-    const auto minutes = util::toStr(window.getHourlyOffsetMinutes());
+        makeDetail("kind", "Kind", util::toStr(kind), tellKind(matrix), place.originOf(BackupWindow::KindTag)));
+    const auto minutes = window.getHourlyOffsetMinutes();
     node.children.push_back(makeField("hourlyOffsetMinutes", "Offset", minutes,
-                                      minutes + " minutes, stored only: the hours above are not shifted",
-                                      place.lineOf(BackupWindow::MinutesTag)));
+                                      util::toStr(minutes) + " minutes, stored only: the hours above are not shifted",
+                                      place.originOf(BackupWindow::MinutesTag)));
     return node;
 }
 

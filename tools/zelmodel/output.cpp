@@ -1,0 +1,77 @@
+#include "output.h"
+
+#include <cstdlib>
+#include <iostream>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include "describe/terminal_text.h"
+#include "input.h"
+
+namespace
+{
+
+using describe::printable;
+using describe::shortened;
+using nlohmann::ordered_json;
+
+constexpr int JsonSchema = 1;
+constexpr std::size_t LongestSentence = 400;
+
+describe::TextStyle styleOf(const OutputOptions& options)
+{
+    describe::TextStyle style;
+    style.showsSecrets = options.showsSecrets;
+    if (::isatty(STDOUT_FILENO) == 0)
+        return style;
+    struct winsize size = {};
+    if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0)
+        style.width = size.ws_col;
+    const char* noColor = std::getenv("NO_COLOR");
+    style.isBold = !options.isPlain && (noColor == nullptr || *noColor == '\0');
+    return style;
+}
+
+} // namespace
+
+Output::Output(const OutputOptions& options) : m_isJson(options.isJson), m_style(styleOf(options)) {}
+
+void Output::print(const std::string& text) const
+{
+    std::cout << text;
+}
+
+void Output::printJson(const std::string& kind, const std::string& file, const ordered_json& body) const
+{
+    ordered_json document{{"kind", kind}, {"schema", JsonSchema}, {"file", shownName(file)}};
+    document.update(body);
+    std::cout << document.dump(2, ' ', false, ordered_json::error_handler_t::replace) << '\n';
+}
+
+void Output::printRefusal(const std::string& file, int line, const std::vector<std::string>& sentences) const
+{
+    if (m_isJson)
+    {
+        ordered_json body;
+        if (line > 0)
+            body["line"] = line;
+        body["refused"] = sentences;
+        printJson("error", file, body);
+        return;
+    }
+    std::cerr << printable(shownName(file));
+    if (line > 0)
+        std::cerr << ':' << line;
+    std::cerr << ": refused\n";
+    for (const auto& sentence : sentences)
+        std::cerr << "  " << printable(shortened(sentence, LongestSentence)) << '\n';
+}
+
+void Output::printFailure(const std::string& file, const std::string& reason) const
+{
+    if (m_isJson)
+        printJson("error", file, {{"failed", reason}});
+    else
+        std::cerr << printable(shownName(file)) << ": " << printable(reason) << '\n';
+}
