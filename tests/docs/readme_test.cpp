@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "console_calls.h"
 #include "markdown.h"
 #include "support/run_command.h"
 
@@ -14,106 +15,14 @@
 
 using namespace zelmodel_test;
 
-namespace
-{
-
-constexpr const char* Ellipsis = "...";
-constexpr const char* Prompt = "$ ";
-
-std::vector<std::string> linesOf(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
-
-/// A call of the command and what the page shows of its answer.
-struct Call
-{
-    std::vector<std::string> arguments;
-    std::vector<std::string> shown;
-};
-
-/// The command runs in the folder of the examples.
-std::string withoutFolder(std::string text)
-{
-    const std::string folder = "examples/";
-    for (auto at = text.find(folder); at != std::string::npos; at = text.find(folder))
-        text.erase(at, folder.size());
-    return text;
-}
-
-std::vector<Call> callsIn(const std::string& path)
-{
-    std::vector<Call> calls;
-    for (const auto& part : partsOf(path))
-    {
-        if (part.info != "console")
-            continue;
-        bool isOurs = false;
-        for (const auto& line : linesOf(withoutFolder(part.text)))
-        {
-            if (line.rfind(Prompt, 0) == 0)
-            {
-                std::istringstream words(line.substr(2));
-                std::string word;
-                words >> word;
-                isOurs = word == "zelmodel";
-                if (!isOurs)
-                    continue;
-                calls.emplace_back();
-                while (words >> word)
-                    calls.back().arguments.push_back(word);
-            }
-            else if (isOurs && !line.empty())
-                calls.back().shown.push_back(line);
-        }
-    }
-    return calls;
-}
-
-/// Whether the lines are the pattern's, where an ellipsis stands for one line or more.
-bool matches(const std::vector<std::string>& pattern, const std::vector<std::string>& lines, std::size_t at = 0,
-             std::size_t from = 0)
-{
-    if (at == pattern.size())
-        return from == lines.size();
-    if (pattern[at] != Ellipsis)
-        return from < lines.size() && pattern[at] == lines[from] && matches(pattern, lines, at + 1, from + 1);
-    for (std::size_t next = from + 1; next <= lines.size(); ++next)
-    {
-        if (matches(pattern, lines, at + 1, next))
-            return true;
-    }
-    return false;
-}
-
-std::string joined(const std::vector<std::string>& items, char separator)
-{
-    std::string text;
-    for (const auto& item : items)
-        text += item + separator;
-    return text;
-}
-
-} // namespace
-
 TEST(Readme, TheCommandAnswersAsShown)
 {
-    const auto calls = callsIn("README.md");
-    for (const auto& call : calls)
-    {
-        const auto result = runCommand(call.arguments);
-        auto lines = linesOf(result.output + result.messages);
-        if (call.shown.back().rfind("(exit status", 0) == 0)
-            lines.push_back("(exit status " + std::to_string(result.exitCode) + ")");
-        EXPECT_TRUE(matches(call.shown, lines)) << joined(call.arguments, ' ') << "\nshown:\n"
-                                                << joined(call.shown, '\n') << "answered:\n"
-                                                << joined(lines, '\n');
-    }
-    EXPECT_EQ(calls.size(), 7U);
+    EXPECT_EQ(zelmodel_test::expectAnswersAsShown("README.md"), 7U);
+}
+
+TEST(CommandPage, TheCommandAnswersAsShown)
+{
+    EXPECT_GT(zelmodel_test::expectAnswersAsShown("docs/command.md"), 1U);
 }
 
 TEST(Readme, ShowsTheFirstProgram)

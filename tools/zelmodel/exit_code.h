@@ -5,6 +5,7 @@ namespace exit_code
 {
 
 constexpr int Fine = 0;
+constexpr int Findings = 1; ///< findings or differences
 constexpr int Usage = 2;
 constexpr int Refused = 3;      ///< a document was refused
 constexpr int CannotRead = 4;   ///< a file cannot be read, or the output not be written
