@@ -1,3 +1,4 @@
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,14 +18,18 @@ using namespace zelplatform::model::structs;
 
 constexpr int Entries = 10000;
 
-SExplicitBackupKeys makeBundle()
+// What agents hold: symmetric keys, and keys that are wrapped by an RSA key of 2048 bits.
+constexpr std::size_t SymmetricKey = 32;
+constexpr std::size_t WrappedKey = 256;
+
+SExplicitBackupKeys makeBundle(std::size_t keySize)
 {
     SExplicitBackupKeys bundle;
     bundle.id = guid::guid_t::CreateNew();
     for (int i = 0; i < Entries; ++i)
     {
         const std::vector<char> idBytes(16, static_cast<char>(i));
-        const crypto::sec_buffer_t keyBytes(32, static_cast<char>(i));
+        const crypto::sec_buffer_t keyBytes(keySize, static_cast<char>(i));
         std::vector<std::shared_ptr<crypto::CKey>> keys{std::make_shared<crypto::CKey>(keyBytes)};
         bundle.keySets.emplace(guid::guid_t::CreateNew(),
                                std::make_shared<crypto::CKeySet>(crypto::CKeySetId({idBytes.data(), idBytes.size()}),
@@ -35,39 +40,52 @@ SExplicitBackupKeys makeBundle()
     return bundle;
 }
 
-const SExplicitBackupKeys& bundle()
+struct Sample
 {
-    static const SExplicitBackupKeys keys = makeBundle();
-    return keys;
+    SExplicitBackupKeys bundle;
+    std::string text;
+};
+
+// An agent's bundle was read: it lies in memory in the order of its entries.
+const Sample& sample(std::size_t keySize)
+{
+    static std::map<std::size_t, Sample> samples;
+    auto& made = samples[keySize];
+    if (made.text.empty())
+    {
+        made.text = makeBundle(keySize).ToBase64();
+        made.bundle = SExplicitBackupKeys::FromBase64(made.text);
+    }
+    return made;
 }
 
-const std::string& bundleText()
+const Sample& sampleOf(const benchmark::State& state)
 {
-    static const std::string text = bundle().ToBase64();
-    return text;
+    return sample(static_cast<std::size_t>(state.range(0)));
 }
 
 void writeKeyBundle(benchmark::State& state)
 {
-    bundle();
+    const auto& bundle = sampleOf(state).bundle;
     for (auto _ : state)
-        benchmark::DoNotOptimize(bundle().ToBase64());
+        benchmark::DoNotOptimize(bundle.ToBase64());
 }
-BENCHMARK(writeKeyBundle);
+BENCHMARK(writeKeyBundle)->Arg(SymmetricKey)->Arg(WrappedKey);
 
 void readKeyBundle(benchmark::State& state)
 {
-    bundleText();
+    const auto& text = sampleOf(state).text;
     for (auto _ : state)
-        benchmark::DoNotOptimize(SExplicitBackupKeys::FromBase64(bundleText()));
+        benchmark::DoNotOptimize(SExplicitBackupKeys::FromBase64(text));
 }
-BENCHMARK(readKeyBundle);
+BENCHMARK(readKeyBundle)->Arg(SymmetricKey)->Arg(WrappedKey);
 
 // OpenSSL's base64 of the same bytes, without any structure.
 void encodeBundleBytes(benchmark::State& state)
 {
-    const auto bytes = util::fromBase64(bundleText());
-    std::string text(bundleText().size() + 1, '\0');
+    const auto& expected = sampleOf(state).text;
+    const auto bytes = util::fromBase64(expected);
+    std::string text(expected.size() + 1, '\0');
     for (auto _ : state)
     {
         benchmark::DoNotOptimize(EVP_EncodeBlock(reinterpret_cast<unsigned char*>(text.data()),
@@ -75,11 +93,11 @@ void encodeBundleBytes(benchmark::State& state)
                                                  static_cast<int>(bytes.size())));
     }
 }
-BENCHMARK(encodeBundleBytes);
+BENCHMARK(encodeBundleBytes)->Arg(SymmetricKey)->Arg(WrappedKey);
 
 void decodeBundleText(benchmark::State& state)
 {
-    const auto& text = bundleText();
+    const auto& text = sampleOf(state).text;
     std::vector<unsigned char> bytes(text.size());
     for (auto _ : state)
     {
@@ -87,10 +105,16 @@ void decodeBundleText(benchmark::State& state)
                                                  static_cast<int>(text.size())));
     }
 }
-BENCHMARK(decodeBundleText);
+BENCHMARK(decodeBundleText)->Arg(SymmetricKey)->Arg(WrappedKey);
 
-const bool added =
-    zelmodel_bench::addFigure({"writing a key bundle of 10000", "writeKeyBundle", "encodeBundleBytes", 2.80}) &&
-    zelmodel_bench::addFigure({"reading a key bundle of 10000", "readKeyBundle", "decodeBundleText", 4.10});
+bool addFigures(std::size_t keySize)
+{
+    const std::string size = std::to_string(keySize);
+    const std::string name = " a key bundle of 10000, " + size + "-byte keys";
+    return zelmodel_bench::addFigure({"writing" + name, "writeKeyBundle/" + size, "encodeBundleBytes/" + size, 2.80}) &&
+           zelmodel_bench::addFigure({"reading" + name, "readKeyBundle/" + size, "decodeBundleText/" + size, 4.10});
+}
+
+const bool added = addFigures(SymmetricKey) && addFigures(WrappedKey);
 
 } // namespace
