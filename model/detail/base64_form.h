@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include <zelplatform/io/io.h>
@@ -8,13 +9,14 @@
 namespace zelplatform::model::detail
 {
 
-/// The base64 text of a record's binary form; the bytes between are in secure memory.
-template <class TRecord>
-std::string toBase64Form(const TRecord& record)
+/// The base64 text of the binary form that is written to a stream, of so many bytes; they are in secure memory.
+template <class TWrite>
+std::string toBase64Form(std::size_t size, TWrite write)
 {
     io::mem_stream_tt memory;
+    memory.reserve(size);
     io::binary_stream_tt stream(memory);
-    record.Serialize(stream);
+    write(stream);
     return util::toBase64(memory.buffer().data(), memory.buffer().size());
 }
 

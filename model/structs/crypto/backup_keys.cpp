@@ -1,8 +1,8 @@
 #include <zelmodel/structs/crypto/backup_keys.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include <zelmodel/binary_values.h>
 #include <zelplatform/exc/exc.h>
@@ -18,20 +18,48 @@ namespace
 
 constexpr const char* NoKeySet = "There is no key set.";
 
+constexpr std::size_t GuidSize = sizeof(std::uint32_t) + guid::guid_t::TextSize;
+
+using KeySets = std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>>;
+using Entries = std::vector<const KeySets::value_type*>;
+
+// The map is walked once: its entries lie apart in memory, and each step waits for the one before.
+Entries completeEntries(const KeySets& keySets)
+{
+    Entries entries;
+    entries.reserve(keySets.size());
+    for (const auto& entry : keySets)
+    {
+        if (!entry.second)
+            throw exc::CRuntimeExc(NoKeySet);
+        entries.push_back(&entry);
+    }
+    return entries;
+}
+
+std::size_t formSize(const Entries& entries)
+{
+    std::size_t size = GuidSize + sizeof(std::uint64_t);
+    for (const auto* entry : entries)
+        size += GuidSize + entry->second->SerialSize();
+    return size;
+}
+
+void writeForm(io::binary_stream_tt& stream, const guid::guid_t& id, const Entries& entries)
+{
+    stream << id << static_cast<std::uint64_t>(entries.size());
+    for (const auto* entry : entries)
+    {
+        stream << entry->first;
+        entry->second->Serial(stream);
+    }
+}
+
 } // namespace
 
 void SExplicitBackupKeys::Serialize(io::binary_stream_tt& stream) const
 {
-    const bool isComplete =
-        std::all_of(keySets.begin(), keySets.end(), [](const auto& entry) { return entry.second != nullptr; });
-    if (!isComplete)
-        throw exc::CRuntimeExc(NoKeySet);
-    stream << id << static_cast<std::uint64_t>(keySets.size());
-    for (const auto& [keySetId, keySet] : keySets)
-    {
-        stream << keySetId;
-        keySet->Serial(stream);
-    }
+    writeForm(stream, id, completeEntries(keySets));
 }
 
 // The count is not trusted: entries are taken one by one until the stream ends.
@@ -51,7 +79,9 @@ void SExplicitBackupKeys::Unserialize(io::binary_stream_tt& stream)
 
 std::string SExplicitBackupKeys::ToBase64() const
 {
-    return detail::toBase64Form(*this);
+    const auto entries = completeEntries(keySets);
+    return detail::toBase64Form(formSize(entries),
+                                [&](io::binary_stream_tt& stream) { writeForm(stream, id, entries); });
 }
 
 SExplicitBackupKeys SExplicitBackupKeys::FromBase64(const std::string& text)
@@ -88,7 +118,7 @@ void SPasswordDerivedKey::Unserialize(io::binary_stream_tt& stream)
 
 std::string SPasswordDerivedKey::ToBase64() const
 {
-    return detail::toBase64Form(*this);
+    return detail::toBase64Form(0, [this](io::binary_stream_tt& stream) { Serialize(stream); });
 }
 
 SPasswordDerivedKey SPasswordDerivedKey::FromBase64(const std::string& text)

@@ -25,7 +25,8 @@ constexpr unsigned MaxNanoseconds = 999'999'999;
 // Version and length of the identifier; algorithm, role, seconds and nanoseconds.
 constexpr std::size_t StartSize = 1 + 1;
 constexpr std::size_t NumbersSize = 4 + 4 + 8 + 4;
-constexpr std::size_t MaxNumbersSize = StartSize + NumbersSize + 4;
+constexpr std::size_t LengthSize = 4;
+constexpr std::size_t MaxNumbersSize = StartSize + NumbersSize + LengthSize;
 
 void checkKeyCount(std::size_t count)
 {
@@ -150,6 +151,16 @@ void CKeySet::Serial(io::binary_stream_tt& stream) const
         writeBytes(stream, {key->data(), key->size()});
     }
     part.writeTo(stream);
+}
+
+std::size_t CKeySet::SerialSize() const
+{
+    std::size_t size = StartSize + m_id.bytes().size() + NumbersSize;
+    size += LengthSize + CUtf8String::FromWide(m_hint).str().size();
+    size += LengthSize;
+    for (const auto& key : m_keys)
+        size += LengthSize + key->size();
+    return size;
 }
 
 std::shared_ptr<CKeySet> CKeySet::Unserial(io::binary_stream_tt& stream)

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <exception>
 
 #include <boost/uuid/random_generator.hpp>
@@ -21,8 +22,20 @@ namespace
 using util::eachByte;
 using util::fourBytesAt;
 
-constexpr std::size_t TextSize = 36;
+constexpr std::size_t TextSize = guid_t::TextSize;
 constexpr std::size_t BracedTextSize = TextSize + 2;
+
+constexpr std::array<std::array<char, 2>, 256> makeDigitPairs() noexcept
+{
+    constexpr const char* digits = "0123456789abcdef";
+    std::array<std::array<char, 2>, 256> pairs{};
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+        pairs[i] = {digits[i >> 4U], digits[i & 0xFU]};
+    return pairs;
+}
+
+// The lower-case digits of each byte.
+constexpr std::array<std::array<char, 2>, 256> DigitPairs = makeDigitPairs();
 
 // Where the digit pairs of the sixteen bytes stand, and the hyphens between them.
 constexpr std::array<std::size_t, 16> Pairs{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
@@ -98,13 +111,17 @@ guid_t guid_t::FromAStr(std::string_view text)
 
 std::string guid_t::ToAStr() const
 {
-    constexpr const char* digits = "0123456789abcdef";
-    std::string text(TextSize, '-');
+    const auto text = ToChars();
+    return {text.data(), text.size()};
+}
+
+std::array<char, guid_t::TextSize> guid_t::ToChars() const noexcept
+{
+    std::array<char, TextSize> text;
+    for (const auto at : Hyphens)
+        text[at] = '-';
     for (std::size_t i = 0; i < Pairs.size(); ++i)
-    {
-        text[Pairs[i]] = digits[m_bytes[i] >> 4U];
-        text[Pairs[i] + 1] = digits[m_bytes[i] & 0xFU];
-    }
+        std::memcpy(&text[Pairs[i]], DigitPairs[m_bytes[i]].data(), 2);
     return text;
 }
 

@@ -47,12 +47,17 @@ long receivedInAll(unsigned long before, long count) noexcept
     return count > greatest - received ? greatest : received + count;
 }
 
-template <class Bytes>
-Bytes readBytes(io_dev_redirector_t& device, unsigned long size)
+void checkRemaining(const io_dev_redirector_t& device, unsigned long size)
 {
     const long left = device.remaining();
     if (left >= 0 && static_cast<unsigned long>(left) < size)
         detail::failRead(left, size);
+}
+
+template <class Bytes>
+Bytes readBytes(io_dev_redirector_t& device, unsigned long size)
+{
+    checkRemaining(device, size);
     Bytes bytes;
     while (bytes.size() < size)
     {
@@ -78,6 +83,12 @@ void binary_stream_tt::write(const void* data, unsigned long size)
 void binary_stream_tt::read(void* data, unsigned long size)
 {
     detail::read_from_device(m_device, data, size);
+}
+
+void binary_stream_tt::read_checked(void* data, unsigned long size)
+{
+    checkRemaining(m_device, size);
+    read(data, size);
 }
 
 void binary_stream_tt::write_text(std::string_view text)

@@ -29,6 +29,13 @@ struct Form
 
 constexpr std::array<Form, 4> Forms{{{0x00, 0x80, 0}, {0xC0, 0xE0, 0x80}, {0xE0, 0xF0, 0x800}, {0xF0, 0xF8, 0x10000}}};
 
+// Most texts are ASCII: these characters are the same in both forms.
+template <class Text>
+auto asciiEnd(const Text& text)
+{
+    return std::find_if(text.begin(), text.end(), [](auto c) { return c < 0 || c > 0x7F; });
+}
+
 [[noreturn]] void failUtf8()
 {
     throw exc::CRuntimeExc("Text is not valid UTF-8.");
@@ -38,10 +45,12 @@ constexpr std::array<Form, 4> Forms{{{0x00, 0x80, 0}, {0xC0, 0xE0, 0x80}, {0xE0,
 
 CUtf8String CUtf8String::FromWide(const CUniString& text)
 {
-    std::string bytes;
-    for (const wchar_t character : text.str())
+    const std::wstring& characters = text.str();
+    auto character = asciiEnd(characters);
+    std::string bytes(characters.begin(), character);
+    for (; character != characters.end(); ++character)
     {
-        const auto code = static_cast<char32_t>(character);
+        const auto code = static_cast<char32_t>(*character);
         if (!isCodePoint(code))
             throw exc::CRuntimeExc("Wide text is not valid Unicode.");
         const auto form = std::find_if(Forms.rbegin(), Forms.rend(), [&](const Form& f) { return code >= f.least; });
@@ -56,8 +65,9 @@ CUtf8String CUtf8String::FromWide(const CUniString& text)
 CUniString CUniString::FromUtf8(const CUtf8String& text)
 {
     const std::string& bytes = text.str();
-    std::wstring characters;
-    for (std::size_t i = 0; i < bytes.size();)
+    const auto ascii = asciiEnd(bytes);
+    std::wstring characters(bytes.begin(), ascii);
+    for (auto i = characters.size(); i < bytes.size();)
     {
         const auto lead = static_cast<unsigned char>(bytes[i]);
         const auto* const form =

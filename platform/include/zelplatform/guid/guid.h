@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -15,6 +16,9 @@ namespace guid
 class ZELPLATFORM_API guid_t
 {
 public:
+    /// How many characters the text has.
+    static constexpr std::size_t TextSize = 36;
+
     constexpr guid_t() = default;
 
     /// Of these bytes, in the order of the text.
@@ -32,6 +36,9 @@ public:
 
     /// 36 characters: lower-case digits and hyphens, no braces.
     std::string ToAStr() const;
+
+    /// The same text without memory of its own; there is no terminator.
+    std::array<char, TextSize> ToChars() const noexcept;
 
     friend bool operator==(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes == b.m_bytes; }
     friend bool operator!=(const guid_t& a, const guid_t& b) noexcept { return !(a == b); }

@@ -26,6 +26,9 @@ public:
     void write(const void* data, unsigned long size);
     void read(void* data, unsigned long size);
 
+    /// Like read, but refused without a call when the device is known to have less.
+    void read_checked(void* data, unsigned long size);
+
     /// The length and the bytes of a text; throws when the length needs more than 32 bits.
     void write_text(std::string_view text);
 
