@@ -37,11 +37,11 @@ Entries completeEntries(const KeySets& keySets)
     return entries;
 }
 
-std::size_t formSize(const Entries& entries)
+std::size_t maxFormSize(const Entries& entries)
 {
     std::size_t size = GuidSize + sizeof(std::uint64_t);
     for (const auto* entry : entries)
-        size += GuidSize + entry->second->SerialSize();
+        size += GuidSize + entry->second->MaxSerialSize();
     return size;
 }
 
@@ -80,7 +80,7 @@ void SExplicitBackupKeys::Unserialize(io::binary_stream_tt& stream)
 std::string SExplicitBackupKeys::ToBase64() const
 {
     const auto entries = completeEntries(keySets);
-    return detail::toBase64Form(formSize(entries),
+    return detail::toBase64Form(maxFormSize(entries),
                                 [&](io::binary_stream_tt& stream) { writeForm(stream, id, entries); });
 }
 

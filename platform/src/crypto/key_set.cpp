@@ -26,6 +26,7 @@ constexpr unsigned MaxNanoseconds = 999'999'999;
 constexpr std::size_t StartSize = 1 + 1;
 constexpr std::size_t NumbersSize = 4 + 4 + 8 + 4;
 constexpr std::size_t LengthSize = 4;
+constexpr std::size_t LongestCharacter = 4;
 constexpr std::size_t MaxNumbersSize = StartSize + NumbersSize + LengthSize;
 
 void checkKeyCount(std::size_t count)
@@ -153,10 +154,10 @@ void CKeySet::Serial(io::binary_stream_tt& stream) const
     part.writeTo(stream);
 }
 
-std::size_t CKeySet::SerialSize() const
+std::size_t CKeySet::MaxSerialSize() const noexcept
 {
     std::size_t size = StartSize + m_id.bytes().size() + NumbersSize;
-    size += LengthSize + CUtf8String::FromWide(m_hint).str().size();
+    size += LengthSize + m_hint.str().size() * LongestCharacter;
     size += LengthSize;
     for (const auto& key : m_keys)
         size += LengthSize + key->size();

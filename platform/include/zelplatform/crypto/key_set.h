@@ -43,8 +43,8 @@ public:
     /// Writes the binary form, key bytes included. A hint that is not valid Unicode throws before anything is written.
     void Serial(io::binary_stream_tt& stream) const;
 
-    /// How many bytes Serial writes; throws as it does.
-    std::size_t SerialSize() const;
+    /// Room that Serial needs: what it writes, and some bytes more when the hint is not of the longest characters.
+    std::size_t MaxSerialSize() const noexcept;
 
     /// Reads what Serial writes. No announced count or length is trusted; throws for an unknown version of the form.
     static std::shared_ptr<CKeySet> Unserial(io::binary_stream_tt& stream);
