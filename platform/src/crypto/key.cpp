@@ -1,5 +1,6 @@
 #include <zelplatform/crypto/key.h>
 
+#include <algorithm>
 #include <utility>
 
 #include <openssl/crypto.h>
@@ -10,9 +11,34 @@
 namespace crypto
 {
 
-CKey::CKey(sec_buffer_t bytes) : m_bytes(std::move(bytes))
+CKey::CKey(sec_buffer_t bytes) : CKey()
 {
-    CheckSize(m_bytes.size());
+    CheckSize(bytes.size());
+    if (bytes.size() > MaxShortSize)
+    {
+        m_long = std::make_shared<const sec_buffer_t>(std::move(bytes));
+        return;
+    }
+    m_shortSize = static_cast<unsigned>(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), m_short.begin());
+}
+
+CKey::CKey(io::binary_stream_tt& stream, std::size_t size) : CKey()
+{
+    CheckSize(size);
+    if (size > MaxShortSize)
+    {
+        m_long = std::make_shared<const sec_buffer_t>(stream.read_secure(size));
+        return;
+    }
+    m_shortSize = static_cast<unsigned>(size);
+    if (size != 0)
+        stream.read_checked(m_short.data(), size);
+}
+
+CKey::~CKey()
+{
+    util::SecureErase(m_short.data(), m_short.size());
 }
 
 void CKey::CheckSize(std::size_t size)

@@ -95,8 +95,7 @@ std::shared_ptr<CKey> readKey(io::binary_stream_tt& stream)
 {
     std::uint32_t size = 0;
     stream >> size;
-    CKey::CheckSize(size);
-    return std::make_shared<CKey>(stream.read_secure(size));
+    return std::make_shared<CKey>(stream, size);
 }
 
 std::vector<std::shared_ptr<CKey>> readKeys(io::binary_stream_tt& stream)

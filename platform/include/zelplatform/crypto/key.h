@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <memory>
 
 #include <zelplatform/crypto/sec_buffer.h>
 #include <zelplatform/export.h>
+#include <zelplatform/io/binary_stream.h>
 
 namespace crypto
 {
@@ -17,18 +20,32 @@ public:
     /// Throws when there are more than 65536 bytes.
     explicit CKey(sec_buffer_t bytes);
 
+    /// Reads that many bytes, which are not trusted to be there; throws when no key can have as many.
+    CKey(io::binary_stream_tt& stream, std::size_t size);
+
+    CKey(const CKey&) = default;
+    CKey& operator=(const CKey&) = default;
+    ~CKey();
+
     /// Throws when no key can have that many bytes.
     static void CheckSize(std::size_t size);
 
-    std::size_t size() const noexcept { return m_bytes.size(); }
-    const char* data() const noexcept { return m_bytes.data(); }
+    std::size_t size() const noexcept { return m_long ? m_long->size() : m_shortSize; }
+    const char* data() const noexcept { return m_long ? m_long->data() : m_short.data(); }
 
     /// Takes the same time wherever keys of one length differ.
     friend ZELPLATFORM_API bool operator==(const CKey& a, const CKey& b) noexcept;
     friend bool operator!=(const CKey& a, const CKey& b) noexcept { return !(a == b); }
 
 private:
-    sec_buffer_t m_bytes;
+    // The keys of a large bundle are short: without a block of their own they take less memory and time.
+    static constexpr std::size_t MaxShortSize = 32;
+
+    CKey() = default;
+
+    std::shared_ptr<const sec_buffer_t> m_long;
+    unsigned m_shortSize = 0;
+    std::array<char, MaxShortSize> m_short{};
 };
 
 } // namespace crypto

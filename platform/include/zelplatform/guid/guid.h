@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include <boost/endian/conversion.hpp>
+
 #include <zelplatform/export.h>
 
 /// 128-bit identifiers.
@@ -42,9 +44,17 @@ public:
 
     friend bool operator==(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes == b.m_bytes; }
     friend bool operator!=(const guid_t& a, const guid_t& b) noexcept { return !(a == b); }
-    friend bool operator<(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes < b.m_bytes; }
+    friend bool operator<(const guid_t& a, const guid_t& b) noexcept
+    {
+        const auto high = a.half(0);
+        const auto otherHigh = b.half(0);
+        return high != otherHigh ? high < otherHigh : a.half(8) < b.half(8);
+    }
 
 private:
+    // Eight bytes as a number of the same order.
+    std::uint64_t half(std::size_t at) const noexcept { return boost::endian::load_big_u64(&m_bytes[at]); }
+
     std::array<std::uint8_t, 16> m_bytes{};
 };
 

@@ -10,7 +10,7 @@ namespace io
 {
 
 /// A device in secure memory: writing appends at the end, reading takes from the front. A read past the end gives the
-/// bytes that are left.
+/// bytes that are left. For one thread at a time, looking at the bytes included.
 class ZELPLATFORM_API mem_stream_tt : public io_dev_redirector_t
 {
 public:
@@ -26,10 +26,12 @@ public:
     long remaining() const override;
 
     /// All bytes, those already read included.
-    const crypto::sec_buffer_t& buffer() const noexcept { return m_bytes; }
+    const crypto::sec_buffer_t& buffer() const noexcept;
 
 private:
-    crypto::sec_buffer_t m_bytes;
+    // Longer than what was written, so that many small values are written fast; cut when somebody looks at it.
+    mutable crypto::sec_buffer_t m_bytes;
+    std::size_t m_end = 0;
     std::size_t m_position = 0;
 };
 
