@@ -6,6 +6,7 @@
 #include <openssl/crypto.h>
 
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/memory.h>
 #include <zelplatform/util/numbers.h>
 
 namespace crypto
@@ -16,7 +17,7 @@ CKey::CKey(sec_buffer_t bytes) : CKey()
     CheckSize(bytes.size());
     if (bytes.size() > MaxShortSize)
     {
-        m_long = std::make_shared<const sec_buffer_t>(std::move(bytes));
+        m_long = std::move(bytes);
         return;
     }
     m_shortSize = static_cast<unsigned>(bytes.size());
@@ -28,7 +29,7 @@ CKey::CKey(io::binary_stream_tt& stream, std::size_t size) : CKey()
     CheckSize(size);
     if (size > MaxShortSize)
     {
-        m_long = std::make_shared<const sec_buffer_t>(stream.read_secure(size));
+        m_long = stream.read_secure(size);
         return;
     }
     m_shortSize = static_cast<unsigned>(size);

@@ -87,7 +87,7 @@ public:
     }
 
 private:
-    std::array<char, CKeySetId::MaxSize + MaxNumbersSize> m_bytes{};
+    std::array<char, CKeySetId::MaxSize + MaxNumbersSize> m_bytes;
     std::size_t m_position = 0;
 };
 

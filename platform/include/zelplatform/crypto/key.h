@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <memory>
 
 #include <zelplatform/crypto/sec_buffer.h>
 #include <zelplatform/export.h>
@@ -30,8 +29,8 @@ public:
     /// Throws when no key can have that many bytes.
     static void CheckSize(std::size_t size);
 
-    std::size_t size() const noexcept { return m_long ? m_long->size() : m_shortSize; }
-    const char* data() const noexcept { return m_long ? m_long->data() : m_short.data(); }
+    std::size_t size() const noexcept { return m_long.empty() ? m_shortSize : m_long.size(); }
+    const char* data() const noexcept { return m_long.empty() ? m_short.data() : m_long.data(); }
 
     /// Takes the same time wherever keys of one length differ.
     friend ZELPLATFORM_API bool operator==(const CKey& a, const CKey& b) noexcept;
@@ -43,7 +42,7 @@ private:
 
     CKey() = default;
 
-    std::shared_ptr<const sec_buffer_t> m_long;
+    sec_buffer_t m_long;
     unsigned m_shortSize = 0;
     std::array<char, MaxShortSize> m_short{};
 };
