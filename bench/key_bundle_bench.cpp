@@ -1,44 +1,21 @@
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 #include <openssl/evp.h>
 
-#include <zelmodel/keys.h>
 #include <zelplatform/util/util.h>
 
+#include "key_bundle_sample.h"
 #include "ratio_table.h"
 
 namespace
 {
 
-using namespace zelplatform::model::structs;
-
-constexpr int Entries = 10000;
-
-// What agents hold: symmetric keys, and keys that are wrapped by an RSA key of 2048 bits.
-constexpr std::size_t SymmetricKey = 32;
-constexpr std::size_t WrappedKey = 256;
-
-SExplicitBackupKeys makeBundle(std::size_t keySize)
-{
-    SExplicitBackupKeys bundle;
-    bundle.id = guid::guid_t::CreateNew();
-    for (int i = 0; i < Entries; ++i)
-    {
-        const std::vector<char> idBytes(16, static_cast<char>(i));
-        const crypto::sec_buffer_t keyBytes(keySize, static_cast<char>(i));
-        std::vector<std::shared_ptr<crypto::CKey>> keys{std::make_shared<crypto::CKey>(keyBytes)};
-        bundle.keySets.emplace(guid::guid_t::CreateNew(),
-                               std::make_shared<crypto::CKeySet>(crypto::CKeySetId({idBytes.data(), idBytes.size()}),
-                                                                 crypto::ECryptAlgs::Local1,
-                                                                 crypto::EKeySetUsageRole::Storage, CUniString(L"hint"),
-                                                                 lin::lin_filetime_t{1700000000, 0}, keys));
-    }
-    return bundle;
-}
+using zelmodel_bench::SymmetricKey;
+using zelmodel_bench::WrappedKey;
+using zelplatform::model::structs::SExplicitBackupKeys;
 
 struct Sample
 {
@@ -53,7 +30,7 @@ const Sample& sample(std::size_t keySize)
     auto& made = samples[keySize];
     if (made.text.empty())
     {
-        made.text = makeBundle(keySize).ToBase64();
+        made.text = zelmodel_bench::makeBundle(keySize).ToBase64();
         made.bundle = SExplicitBackupKeys::FromBase64(made.text);
     }
     return made;
