@@ -18,12 +18,12 @@ using zelmodel_test::watchAllocations;
 
 constexpr std::size_t SecretSize = 200;
 
-/// A key set whose keys were never anywhere but in secure memory.
+/// A key set whose keys, a short one among them, were never anywhere but in secure memory.
 std::shared_ptr<crypto::CKeySet> secretKeySet()
 {
     std::vector<std::shared_ptr<crypto::CKey>> keys;
-    for (int i = 0; i < 3; ++i)
-        keys.push_back(std::make_shared<crypto::CKey>(crypto::sec_buffer_t(SecretSize, SecretByte)));
+    for (const std::size_t size : {SecretSize, zelmodel_test::SecretRun, SecretSize})
+        keys.push_back(std::make_shared<crypto::CKey>(crypto::sec_buffer_t(size, SecretByte)));
     return std::make_shared<crypto::CKeySet>(crypto::CKeySetId("id"), crypto::Local0, crypto::Storage, CUniString(),
                                              lin::lin_filetime_t{1709728496, 0}, keys);
 }

@@ -186,6 +186,20 @@ TEST(BinaryStreamTest, DoesNotTrustALength)
     }
 }
 
+TEST(BinaryStreamTest, RefusesWhatADeviceIsKnownNotToHave)
+{
+    char bytes[4] = {};
+    for (const bool isSizeKnown : {true, false})
+    {
+        TestDevice device("abcde", isSizeKnown);
+        binary_stream_tt stream(device);
+        stream.read_checked(bytes, 3);
+        EXPECT_EQ(std::string(bytes, 3), "abc");
+        EXPECT_EQ(failureText([&] { stream.read_checked(bytes, 4); }), shortRead("2", "4"));
+        EXPECT_EQ(device.calls.size(), isSizeKnown ? 1U : 2U);
+    }
+}
+
 TEST(BinaryStreamTest, ReadsLongTextsInSteps)
 {
     TestDevice device(std::string("\1\0\2\0", 4) + std::string(131073, 'x'));

@@ -80,6 +80,15 @@ TEST(GuidTest, RefusesEveryOtherText)
     }
 }
 
+TEST(GuidTest, WritesTheSameTextWithoutMemory)
+{
+    for (const std::string& text : {std::string(ZeroText), std::string(SomeText)})
+    {
+        const auto characters = guid_t::FromAStr(text).ToChars();
+        EXPECT_EQ(std::string(characters.data(), characters.size()), text);
+    }
+}
+
 TEST(GuidTest, RefusesANulByte)
 {
     const std::string text("\0001234567-89ab-cdef-fedc-ba9876543210", 36);

@@ -133,6 +133,17 @@ TEST(KeySetTest, WritesItsForm)
                                       "00 00 00 00 00 00 00 00"));
 }
 
+TEST(KeySetTest, TellsHowMuchRoomItsFormNeeds)
+{
+    const CKeySet withoutHint(CKeySetId("id"), crypto::Local0, crypto::Role0, CUniString(), {},
+                              {key("sesame"), key(std::string(100, 'k'))});
+    EXPECT_EQ(withoutHint.MaxSerialSize(), written(withoutHint).size());
+    const CKeySet longCharacters(CKeySetId(), crypto::Local0, crypto::Role0, CUniString(L"\U0001F511\U0001F511"), {},
+                                 {});
+    EXPECT_EQ(longCharacters.MaxSerialSize(), written(longCharacters).size());
+    EXPECT_GE(sample().MaxSerialSize(), written(sample()).size());
+}
+
 TEST(KeySetTest, WritesNothingOfAHintThatIsNoUnicode)
 {
     const CKeySet keySet(CKeySetId(), crypto::Local0, crypto::Role0, CUniString(std::wstring(1, wchar_t(0xD800))), {},

@@ -53,6 +53,23 @@ TEST(MemStreamTest, KeepsItsBytesWhereRoomWasMade)
     EXPECT_EQ(content(stream).substr(99990), "789" + std::string(100, 'x'));
 }
 
+TEST(MemStreamTest, ShowsNothingButWhatWasWritten)
+{
+    io::mem_stream_tt stream;
+    stream.reserve(100);
+    EXPECT_EQ(content(stream), "");
+    EXPECT_EQ(stream.remaining(), 0);
+    for (int i = 0; i < 30; ++i)
+    {
+        stream.write("ab", 2);
+        EXPECT_EQ(stream.buffer().size(), 2U * static_cast<unsigned>(i + 1));
+    }
+    stream.reserve(100);
+    stream.write("c", 1);
+    EXPECT_EQ(content(stream).substr(56), "ababc");
+    EXPECT_EQ(stream.remaining(), 61);
+}
+
 TEST(MemStreamTest, GivesTheBytesThatAreLeft)
 {
     const std::string text = "abc";
