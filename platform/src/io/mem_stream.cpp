@@ -5,6 +5,12 @@
 
 namespace io
 {
+namespace
+{
+
+constexpr unsigned long ExtensionStep = 4096;
+
+} // namespace
 
 mem_stream_tt::mem_stream_tt() = default;
 
@@ -15,22 +21,26 @@ mem_stream_tt::~mem_stream_tt() = default;
 // A vector with an allocator of its own copies byte by byte; blocks are copied here instead.
 void mem_stream_tt::reserve(unsigned long size)
 {
-    if (size <= m_bytes.size())
-        return;
     if (size <= m_bytes.capacity())
-    {
-        m_bytes.resize(size);
         return;
-    }
-    crypto::sec_buffer_t bytes(size);
+    crypto::sec_buffer_t bytes;
+    bytes.reserve(size);
+    bytes.resize(m_end);
     std::copy_n(m_bytes.data(), m_end, bytes.data());
     m_bytes.swap(bytes);
+}
+
+void mem_stream_tt::extend(unsigned long size)
+{
+    if (size > m_bytes.capacity())
+        reserve(std::max(size, 2 * m_bytes.capacity()));
+    m_bytes.resize(std::min(size + ExtensionStep, m_bytes.capacity()));
 }
 
 long mem_stream_tt::write(const void* data, unsigned long size)
 {
     if (size > m_bytes.size() - m_end)
-        reserve(std::max(m_end + size, 2 * m_bytes.size()));
+        extend(m_end + size);
     std::copy_n(static_cast<const char*>(data), size, m_bytes.data() + m_end);
     m_end += size;
     return static_cast<long>(size);

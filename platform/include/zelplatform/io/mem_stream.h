@@ -29,6 +29,8 @@ public:
     const crypto::sec_buffer_t& buffer() const noexcept;
 
 private:
+    void extend(unsigned long size);
+
     // Longer than what was written, so that many small values are written fast; cut when somebody looks at it.
     mutable crypto::sec_buffer_t m_bytes;
     std::size_t m_end = 0;
