@@ -76,11 +76,10 @@ TEST(ToJson, FieldsByNameAndItemsInOrder)
 TEST(ToJson, HidesSecretsUnlessTold)
 {
     const auto node = makeSecret("key", "Key", "canary", {EOrigin::Document, 2, "Key"});
-    EXPECT_EQ(jsonOf(node), R"({"words":"(hidden, 6 characters)","secret":true,"line":2,"readFrom":"Key"
-})");
+    EXPECT_EQ(jsonOf(node), R"x({"words":"(hidden, 6 characters)","secret":true,"line":2,"readFrom":"Key"})x");
     TextStyle style;
-style.showsSecrets = true;
-EXPECT_EQ(jsonOf(node, style), R"({"value":"canary","words":"canary","secret":true,"line":2,"readFrom":"Key"})");
+    style.showsSecrets = true;
+    EXPECT_EQ(jsonOf(node, style), R"({"value":"canary","words":"canary","secret":true,"line":2,"readFrom":"Key"})");
 }
 
 } // namespace
