@@ -28,10 +28,18 @@ bool isNamed(const char* text, CXmlName name) noexcept
 std::string_view viewOf(const char* value) noexcept
 {
     constexpr std::size_t shortSize = 40;
-    std::size_t size = 0;
-    while (size < shortSize && value[size] != '\0')
-        ++size;
-    return {value, size < shortSize ? size : size + std::strlen(value + size)};
+    for (std::size_t size = 0; size < shortSize; size += 4)
+    {
+        if (value[size] == '\0')
+            return {value, size};
+        if (value[size + 1] == '\0')
+            return {value, size + 1};
+        if (value[size + 2] == '\0')
+            return {value, size + 2};
+        if (value[size + 3] == '\0')
+            return {value, size + 3};
+    }
+    return {value, shortSize + std::strlen(value + shortSize)};
 }
 
 // For the same reason a value is not compared by strcmp.
