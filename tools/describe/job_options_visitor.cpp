@@ -162,17 +162,28 @@ Node visitProductSpecific(const SBackupJobOptions& job, const Lines& lines)
                      textOr(job.productSpecific, "none"), lines.ofAgents(job_names::ProductSpecific));
 }
 
+void markNotCarried(Node& node)
+{
+    node.isNotCarried = true;
+    for (auto& child : node.children)
+        markNotCarried(child);
+}
+
 // What the managing server's form does not carry has its default; telling each default would read as if it were set.
 void hideWhatServersDoNotCarry(std::vector<Node>& fields, std::size_t first)
 {
     for (auto field = fields.begin() + static_cast<std::ptrdiff_t>(first); field != fields.end(); ++field)
+    {
         field->isDetail = true;
+        markNotCarried(*field);
+    }
 }
 
 Node visitMissingSchedule(const SBackupJobOptions& job, const Place& missing)
 {
     auto node = visitSchedule(job.schedule, missing);
     node.words = "disabled: this form carries no schedule, so the job does not start by itself";
+    markNotCarried(node);
     for (auto& part : node.children)
         part.isDetail = true;
     return node;

@@ -71,6 +71,8 @@ ordered_json toJson(const Node& node, const TextStyle& style)
     if (node.secret)
         json["secret"] = true;
     addOrigin(node.origin, json);
+    if (node.isNotCarried)
+        json["notCarried"] = true;
     if (node.isList)
         json["items"] = ordered_json::array();
     for (const auto& child : node.children)

@@ -85,6 +85,12 @@ struct Node
     /// The children are the items of a list, which share one name.
     bool isList = false;
 
+    /// The form of the document cannot carry the field: it has its default, and no document of the form says more.
+    bool isNotCarried = false;
+
+    /// Two that read alike mean the same, whatever their values: the same hours are listed as open or as closed ones.
+    bool isComparedByWords = false;
+
     std::vector<Node> children;
 };
 

@@ -104,6 +104,7 @@ Node visitCloudContainer(const SExternalRepoCloudContainer& container, const Pla
     fields.add("containerName", "Container", container.containerName,
                name.empty() ? "none" : name + ", in the document only: readers leave it out",
                repository_names::ContainerName);
+    node.children.back().isComparedByWords = true;
     fields.addText("repositoryName", "Repository", container.repositoryName, repository_names::RepoName);
     fields.addIdentifier("clientId", "Client", container.clientId.GetGuid(), repository_names::ClientId);
     fields.addText("clientDescription", "Description of the client", container.clientDescription,

@@ -32,13 +32,6 @@ std::size_t columnsOf(std::string_view text)
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
-std::string shownWords(const Node& node, const TextStyle& style)
-{
-    if (node.secret && !style.showsSecrets)
-        return hiddenWords(node);
-    return printable(shortened(node.words, style.longestWords));
-}
-
 std::string originOf(const Node& node)
 {
     switch (node.origin.kind)
@@ -106,30 +99,6 @@ std::string withoutTrailingBlanks(std::string text)
     return text;
 }
 
-/// The words broken at blanks into lines of the width; a single longer word stays whole.
-std::string broken(const std::string& words, std::size_t start, const TextStyle& style)
-{
-    if (style.width == 0)
-        return words;
-    const auto room = std::max(style.width > start ? style.width - start : 0, NarrowestWords);
-    std::string text;
-    std::size_t used = 0;
-    for (std::size_t from = 0; from < words.size();)
-    {
-        const auto end = std::min(words.find(' ', from), words.size());
-        const auto word = words.substr(from, end - from);
-        if (used > 0 && used + 1 + columnsOf(word) > room)
-        {
-            text += '\n' + std::string(start, ' ');
-            used = 0;
-        }
-        text += (used > 0 ? " " : "") + word;
-        used += (used > 0 ? 1 : 0) + columnsOf(word);
-        from = end + 1;
-    }
-    return text;
-}
-
 std::string renderTitle(const Node& node, const TextStyle& style)
 {
     auto title = printable(node.label);
@@ -144,6 +113,36 @@ std::string renderTitle(const Node& node, const TextStyle& style)
 std::string hiddenWords(const Node& node)
 {
     return "(hidden, " + countOf(columnsOf(node.words), "character") + ')';
+}
+
+std::string shownWords(const Node& node, const TextStyle& style)
+{
+    if (node.secret && !style.showsSecrets)
+        return hiddenWords(node);
+    return printable(shortened(node.words, style.longestWords));
+}
+
+std::string broken(const std::string& text, std::size_t column, const TextStyle& style)
+{
+    if (style.width == 0)
+        return text;
+    const auto room = std::max(style.width > column ? style.width - column : 0, NarrowestWords);
+    std::string lines;
+    std::size_t used = 0;
+    for (std::size_t from = 0; from < text.size();)
+    {
+        const auto end = std::min(text.find(' ', from), text.size());
+        const auto word = text.substr(from, end - from);
+        if (used > 0 && used + 1 + columnsOf(word) > room)
+        {
+            lines += '\n' + std::string(column, ' ');
+            used = 0;
+        }
+        lines += (used > 0 ? " " : "") + word;
+        used += (used > 0 ? 1 : 0) + columnsOf(word);
+        from = end + 1;
+    }
+    return lines;
 }
 
 std::string renderText(const Node& node, const TextStyle& style)

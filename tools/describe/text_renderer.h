@@ -20,6 +20,12 @@ struct TextStyle
 /// What stands in place of a secret: "(hidden, 12 characters)".
 std::string hiddenWords(const Node& node);
 
+/// The node's words as a terminal may get them: escaped, cut, hidden when they are a secret.
+std::string shownWords(const Node& node, const TextStyle& style);
+
+/// The text broken at blanks into lines of the terminal's width; the first starts at the column, as do the others.
+std::string broken(const std::string& text, std::size_t column, const TextStyle& style);
+
 /// The tree as aligned lines, a field a line, without the fields that the words above tell already. The margin tells
 /// where each came from: the line of the document, or that it is a default. Everything that could act on a terminal is
 /// escaped. Ends with a line break.

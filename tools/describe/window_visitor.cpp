@@ -68,6 +68,7 @@ Node visitWindow(const BackupWindow& window, const Place& place)
         const auto name = EDayOfWeek::ToStr(day);
         node.children.push_back(makeField(util::tolower(name), name, window.getIntervals(day), tellDay(matrix, day),
                                           days.child(name).origin()));
+        node.children.back().isComparedByWords = true;
     }
     const auto kind = matrix.getScheduleWindowKind();
     node.children.push_back(

@@ -19,8 +19,9 @@ constexpr std::size_t LongestUsageError = 400;
 
 void addCommands(Dispatcher& commands)
 {
-    addShow(commands);
+    addDiff(commands);
     addNext(commands);
+    addShow(commands);
 }
 
 int tellUsage(const CLI::App& app, const CLI::ParseError& error)

@@ -1,0 +1,54 @@
+#include <memory>
+#include <string>
+
+#include "commands.h"
+#include "describe/diff_renderer.h"
+#include "exit_code.h"
+
+namespace
+{
+
+struct Arguments
+{
+    std::string first;
+    std::string second;
+};
+
+describe::DocumentSide readSide(const std::string& name, Session& session)
+{
+    const auto& document = openDocument(name, session.reading);
+    const auto kind = document.kind();
+    return {shownName(name), kind, document.describe()};
+}
+
+int diff(const Arguments& arguments, Session& session)
+{
+    const auto first = readSide(arguments.first, session);
+    const auto second = readSide(arguments.second, session);
+    const auto diff = describe::compareDocuments(first, second);
+    const auto& style = session.output.style();
+    if (session.output.isJson())
+    {
+        nlohmann::ordered_json body{{"secondFile", second.name}};
+        body.update(describe::toJson(diff, style));
+        session.output.printJson("diff", arguments.first, body);
+    }
+    else
+        session.output.print(describe::renderDiff(diff, first, second, style));
+    return diff.isSame() ? exit_code::Fine : exit_code::Findings;
+}
+
+} // namespace
+
+void addDiff(Dispatcher& commands)
+{
+    auto& command = commands.define("diff", "Tell field by field in what two documents differ");
+    const auto arguments = std::make_shared<Arguments>();
+    command.add_option("A", arguments->first, "A document; - is standard input")->required();
+    command.add_option("B", arguments->second, "A document of the same kind, in any form")->required();
+    command.callback([arguments] {
+        if (arguments->first == StandardInput && arguments->second == StandardInput)
+            throw CLI::ValidationError("B", "Standard input can be read only once");
+    });
+    commands.setWork(command, [arguments](Session& session) { return diff(*arguments, session); });
+}
