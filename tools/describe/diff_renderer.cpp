@@ -37,14 +37,6 @@ std::string placesOf(const Difference& difference, bool tellsSecond)
     return both.empty() ? both : " (" + both + ')';
 }
 
-std::string labelOf(const Difference& difference)
-{
-    std::string text;
-    for (const auto& label : difference.labels)
-        text += (text.empty() ? "" : " / ") + printable(label);
-    return text;
-}
-
 std::string shownValue(const Node& node, const TextStyle& style)
 {
     return printable(shortened(node.value, style.longestWords));
@@ -70,16 +62,11 @@ std::string tell(const Difference& difference, const DiffWords& words, const Tex
     return tellChange(difference.first, difference.second, style);
 }
 
-std::string lineOf(const std::string& text, std::size_t indent, const TextStyle& style)
-{
-    return std::string(indent, ' ') + broken(text, indent + HangingIndent, style) + '\n';
-}
-
 std::string renderOne(const Difference& difference, const DiffWords& words, const TextStyle& style, std::size_t indent)
 {
-    const auto label = indent == 0 ? labelOf(difference) : printable(difference.labels.back());
+    const auto label = indent == 0 ? joinLabels(difference.labels) : printable(difference.labels.back());
     const auto places = difference.details.empty() ? placesOf(difference, words.tellsSecondPlace) : std::string();
-    auto text = lineOf(label + ": " + tell(difference, words, style) + places, indent, style);
+    auto text = renderLine(label + ": " + tell(difference, words, style) + places, style, indent);
     for (const auto& detail : difference.details)
         text += renderOne(detail, words, style, indent + DetailIndent);
     return text;
@@ -89,8 +76,8 @@ std::string renderNotCarried(const std::vector<std::string>& labels, const Docum
 {
     if (labels.empty())
         return {};
-    return lineOf("Not carried by " + printable(side.name) + " (" + nameOf(side.kind) + "): " + listOf(labels), 0,
-                  style);
+    return renderLine("Not carried by " + printable(side.name) + " (" + nameOf(side.kind) + "): " + listOf(labels),
+                      style);
 }
 
 std::string tellUncomparable(const DocumentSide& first, const DocumentSide& second)
@@ -112,6 +99,19 @@ const char* nameOf(EDifference kind)
 
 } // namespace
 
+std::string joinLabels(const std::vector<std::string>& labels)
+{
+    std::string text;
+    for (const auto& label : labels)
+        text += (text.empty() ? "" : " / ") + printable(label);
+    return text;
+}
+
+std::string renderLine(const std::string& text, const TextStyle& style, std::size_t indent)
+{
+    return std::string(indent, ' ') + broken(text, indent + HangingIndent, style) + '\n';
+}
+
 std::string renderDifferences(const std::vector<Difference>& differences, const DiffWords& words,
                               const TextStyle& style)
 {
@@ -125,11 +125,11 @@ std::string renderDiff(const DocumentDiff& diff, const DocumentSide& first, cons
                        const TextStyle& style)
 {
     if (!diff.areComparable)
-        return lineOf(tellUncomparable(first, second), 0, style);
+        return renderLine(tellUncomparable(first, second), style);
     const DiffWords words{"only in " + printable(first.name), "only in " + printable(second.name)};
     auto text = renderDifferences(diff.diff.differences, words, style);
     if (!diff.sharedPart.empty())
-        text += lineOf("Only the " + diff.sharedPart + " was compared: both documents hold it", 0, style);
+        text += renderLine("Only the " + diff.sharedPart + " was compared: both documents hold it", style);
     return text + renderNotCarried(diff.diff.notCarriedByFirst, first, style) +
            renderNotCarried(diff.diff.notCarriedBySecond, second, style);
 }
@@ -140,7 +140,7 @@ nlohmann::ordered_json toJson(const std::vector<Difference>& differences, const 
     for (const auto& difference : differences)
     {
         nlohmann::ordered_json one{{"path", util::str_join(difference.names, "/")},
-                                   {"label", labelOf(difference)},
+                                   {"label", joinLabels(difference.labels)},
                                    {"change", nameOf(difference.kind)}};
         if (difference.kind != EDifference::OnlyInSecond)
             one["first"] = toJson(difference.first, style);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,12 @@ struct DiffWords
     std::string onlyInSecond; ///< "only in b.xml"
     bool tellsSecondPlace = true;
 };
+
+/// "Retention / Days", as a terminal may get it.
+std::string joinLabels(const std::vector<std::string>& labels);
+
+/// One line of text for people, broken at the width with a hanging indent, and indented as a whole.
+std::string renderLine(const std::string& text, const TextStyle& style, std::size_t indent = 0);
 
 /// The differences as text, a line for each: "Retention / Days: 7 days -> 14 days (line 3 -> line 5)", and below a
 /// change that words tell as a whole a line for each of its fields.

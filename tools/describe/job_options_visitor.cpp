@@ -113,9 +113,12 @@ Node visitBlockSize(const SBackupJobOptions& job, const Lines& lines)
                      lines.ofFilled(job_names::BlockSize, job_names::StgBlockSize));
 }
 
-// An older layout writes the number into an attribute of the element instead of its text.
-Origin originOfDeletedDataRule(const Lines& lines)
+// An older layout writes the number into an attribute of the element instead of its text. In the managing server's form
+// a flag decides whether the number counts.
+Origin originOfDeletedDataRule(const SBackupJobOptions& job, const Lines& lines)
 {
+    if (lines.isServerForm() && !job.deletedVmDataRetentionDays)
+        return lines.place().child(job_names::EnableDeletedVmDataRetention).origin();
     const auto element = lines.place().child(job_names::RetainDays);
     return element.has(job_names::RetainDays) ? asOlder(element.originOf(job_names::RetainDays)) : element.origin();
 }
@@ -133,7 +136,7 @@ void visitRetention(const SBackupJobOptions& job, const Lines& lines, std::vecto
     fields.push_back(makeField("deletedVmDataRetentionDays", "Deleted data", days ? Value(*days) : "",
                                days ? "data of machines that vanished from the job is kept " + countOf(*days, "day")
                                     : "no rule for data of machines that vanished from the job",
-                               originOfDeletedDataRule(lines)));
+                               originOfDeletedDataRule(job, lines)));
 }
 
 void visitScripts(const SBackupJobOptions& job, const Lines& lines, std::vector<Node>& fields)

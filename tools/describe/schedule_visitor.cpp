@@ -79,10 +79,13 @@ std::string tellEvaluableCalendar(const CScheduleCalendar& calendar)
 /// Fields of the calendar; the place is the element that it was read from.
 void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::vector<Node>& fields)
 {
-    const auto type = calendar.GetScheduleType();
-    fields.push_back(
-        makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), place.originOf(schedule_names::Type)));
     const auto timeElement = place.child(schedule_names::Time);
+    const auto type = calendar.GetScheduleType();
+    // Before calendars had a type, the time said that it is a period.
+    const auto typeOrigin = !place.has(schedule_names::Type) && timeElement.has(schedule_names::Type)
+                                ? asOlder(timeElement.originOf(schedule_names::Type))
+                                : place.originOf(schedule_names::Type);
+    fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), typeOrigin));
     const auto time = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
     fields.push_back(makeDetail("time", calendar.IsSchedulePeriodically() ? "Period" : "Time of day", time,
                                 textOr(time, "not set"),

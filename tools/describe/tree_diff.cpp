@@ -30,7 +30,7 @@ struct Path
 // The document does not hold it, and nobody may ask where it does.
 bool isWorkedOut(const Node& node)
 {
-    return node.children.empty() && !node.isList && node.origin.kind == EOrigin::None;
+    return (node.children.empty() || node.isList) && node.origin.kind == EOrigin::None;
 }
 
 bool isGroup(const Node& node)
