@@ -2,30 +2,116 @@
 #include <memory>
 #include <string>
 
+#include <unistd.h>
+
+#include <zelplatform/exc/exc.h>
+
 #include "commands.h"
 #include "describe/conversion.h"
+#include "describe/terminal_text.h"
 #include "exit_code.h"
+#include "new_file.h"
+#include "replace_file.h"
 
 namespace
 {
 
+using describe::Conversion;
+using nlohmann::ordered_json;
+
 struct Arguments
 {
     std::string file;
+    std::string output; ///< empty: standard output, or the file itself
+    bool isInPlace = false;
+
+    bool isPrinted() const noexcept { return output.empty() && !isInPlace; }
 };
 
-int convert(const Arguments& arguments, Session& session)
+/// What was written, as members of the JSON.
+using Written = ordered_json;
+
+bool isTerminal()
+{
+    return ::isatty(STDOUT_FILENO) != 0;
+}
+
+// A terminal keeps what it showed, and acts on control characters.
+void printDocument(const Conversion& conversion)
+{
+    if (isTerminal())
+        std::cout << describe::printable(conversion.text.substr(0, conversion.text.size() - 1)) << '\n';
+    else
+        std::cout << conversion.text;
+}
+
+Written writeInPlace(const Arguments& arguments, const std::string& text, const Conversion& conversion)
+{
+    if (conversion.markup.enclosing.line != 0)
+        throw exc::CRuntimeExc("The document stands inside of another one, which would be lost. Convert it into a file "
+                               "of its own.");
+    if (text == conversion.text)
+        return {{"output", arguments.file}, {"unchanged", true}};
+    return {{"output", arguments.file}, {"backup", replaceFile(arguments.file, conversion.text)}};
+}
+
+Written writeAsTold(const Arguments& arguments, const std::string& text, const Conversion& conversion, bool isShown)
+{
+    if (arguments.isInPlace)
+        return writeInPlace(arguments, text, conversion);
+    if (arguments.output.empty())
+        return isShown ? Written{{"document", conversion.text}} : Written{{"documentHidden", true}};
+    writeNewFile(arguments.output, conversion.text);
+    return {{"output", arguments.output}};
+}
+
+void tellWritten(const Written& written)
+{
+    if (written.contains("unchanged"))
+        std::cerr << "Unchanged: it is in the current form\n";
+    if (written.contains("backup"))
+        std::cerr << "Backup: " << describe::printable(written["backup"].get<std::string>()) << '\n';
+}
+
+Conversion readAndConvert(const Arguments& arguments, std::string& text, Session& session)
 {
     session.reading = Reading{arguments.file, std::nullopt};
-    const auto text = readInput(arguments.file);
+    text = readInput(arguments.file);
     const auto& document = session.reading.document.emplace(text);
     const auto kind = document.kind();
     const auto tree = document.describe();
     // What is refused from here on stands on no line.
     session.reading.document.reset();
-    const auto conversion = describe::convert(text, kind, tree);
-    session.output.print(conversion.text);
-    std::cerr << describe::renderConversion(conversion, session.output.style());
+    return describe::convert(text, kind, tree);
+}
+
+int convert(const Arguments& arguments, Session& session)
+{
+    std::string text;
+    const auto conversion = readAndConvert(arguments, text, session);
+    const auto& style = session.output.style();
+    const bool isShown = !conversion.holdsSecrets || style.showsSecrets;
+    if (arguments.isPrinted() && !session.output.isJson() && isTerminal() && !isShown)
+    {
+        std::cerr << describe::printable(shownName(arguments.file))
+                  << ": holds secrets, which the terminal would show. Use --reveal, -o, --in-place or a pipe.\n";
+        return exit_code::Usage;
+    }
+    if (!arguments.output.empty())
+        session.reading.name = arguments.output;
+    const auto written = writeAsTold(arguments, text, conversion, isShown);
+    if (session.output.isJson())
+    {
+        auto body = written;
+        body.update(describe::toJson(conversion, style));
+        session.output.printJson("conversion", arguments.file, body);
+        return exit_code::Fine;
+    }
+    if (arguments.isPrinted())
+        printDocument(conversion);
+    std::cout.flush();
+    std::cerr << describe::renderConversion(conversion, style);
+    tellWritten(written);
     return exit_code::Fine;
 }
 
@@ -36,5 +122,15 @@ void addConvert(Dispatcher& commands)
     auto& command = commands.define("convert", "Write a document of any form in the current form of the agent");
     const auto arguments = std::make_shared<Arguments>();
     command.add_option("FILE", arguments->file, "A document; - is standard input")->required();
+    auto* const output =
+        command
+            .add_option("-o,--output", arguments->output, "A new file for the document; standard output unless given")
+            ->type_name("FILE");
+    command.add_flag("--in-place", arguments->isInPlace, "Replace the file, and keep the old one as FILE.orig")
+        ->excludes(output);
+    command.callback([arguments] {
+        if (arguments->file == StandardInput && arguments->isInPlace)
+            throw CLI::ValidationError("--in-place", "Standard input is no file");
+    });
     commands.setWork(command, [arguments](Session& session) { return convert(*arguments, session); });
 }
