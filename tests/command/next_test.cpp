@@ -40,48 +40,50 @@ INSTANTIATE_TEST_SUITE_P(
     Examples, Next,
     testing::Values(
         NextCase{{"nightly-file-server.xml", "--from", "2026-03-06", "-n", "3"},
-                 "starts Every day at 22:30, local time\n"
+                 "starts Every day at 22:30, local time of UTC (TZ), UTC+00:00 on 2026-03-06\n"
                  "Date        Day       Start  Full\n"
                  "2026-03-06  Friday    22:30\n"
                  "2026-03-07  Saturday  22:30  active full\n"
                  "2026-03-08  Sunday    22:30\n"},
         NextCase{{"nightly-file-server.xml", "--window", "periodical-window.xml", "--from", "2026-03-05", "-n", "2"},
-                 "starts Every day at 22:30, local time\n"
+                 "starts Every day at 22:30, local time of UTC (TZ), UTC+00:00 on 2026-03-05\n"
                  "Date        Day       Start  Window\n"
                  "2026-03-05  Thursday  22:30  open until 06:00 on Friday 2026-03-06\n"
                  "2026-03-06  Friday    22:30  open until 06:00 on Monday 2026-03-09\n"},
         NextCase{{"weekly-with-monthly-fulls-and-gfs.xml", "--from=2026-06-30", "--count=3"},
-                 "starts Every Monday, Friday at 21:00, local time\n"
+                 "starts Every Monday, Friday at 21:00, local time of UTC (TZ), UTC+00:00 on 2026-06-30\n"
                  "Date        Day     Start  Full\n"
                  "2026-07-03  Friday  21:00  active full\n"
                  "2026-07-06  Monday  21:00  synthetic full\n"
                  "2026-07-10  Friday  21:00\n"},
         NextCase{
             {"periodical-every-4-hours.xml", "--from", "2026-03-02", "-n", "1", "--window", "periodical-window.xml"},
-            "starts Every 4 hours (periodical), local time, counted from 00:00 on 2026-03-02\n"
+            "starts Every 4 hours (periodical), local time of UTC (TZ), UTC+00:00 on 2026-03-02, counted from 00:00 on "
+            "2026-03-02\n"
             "Date        Day     Start                                Window\n"
             "2026-03-02  Monday  00:00 04:00 08:00 12:00 16:00 20:00  00:00 to 04:00 open until 06:00, 08:00 to "
             "16:00 closed, 20:00 open until 06:00 on Tuesday 2026-03-03\n"},
         NextCase{{"continuous.xml", "--from", "2026-03-02", "-n", "1", "--window", "office-hours-closed-window.xml"},
-                 "starts Continuously, local time\n"
+                 "starts Continuously, local time of UTC (TZ), UTC+00:00 on 2026-03-02\n"
                  "Date        Day     Start    Window\n"
                  "2026-03-02  Monday  all day  open 00:00 to 08:00, 17:00 to 08:00 on Tuesday 2026-03-03\n"},
         NextCase{{"continuous.xml", "--from", "2026-03-02", "-n", "1", "--window", "always-open-window.xml"},
-                 "starts Continuously, local time\n"
+                 "starts Continuously, local time of UTC (TZ), UTC+00:00 on 2026-03-02\n"
                  "Date        Day     Start    Window\n"
                  "2026-03-02  Monday  all day  open, never closes\n"},
         NextCase{{"managing-server-twin.xml", "--from", "2026-03-30", "-n", "2"},
-                 "starts Last Sunday of every month at 03:15, local time\n"
+                 "starts Last Sunday of every month at 03:15, local time of UTC (TZ), UTC+00:00 on 2026-03-30\n"
                  "Date        Day     Start\n"
                  "2026-04-26  Sunday  03:15\n"
                  "2026-05-31  Sunday  03:15\n"},
         NextCase{{"schedule-options.xml", "--from", "2024-02-01", "-n", "2"},
-                 "starts Every last day of every month at 23:45, local time\n"
+                 "starts Every last day of every month at 23:45, local time of UTC (TZ), UTC+00:00 on 2024-02-01\n"
                  "Date        Day       Start  Full\n"
                  "2024-02-29  Thursday  23:45\n"
                  "2024-03-31  Sunday    23:45  synthetic full\n"},
         NextCase{{"older/schedule-monthly.xml", "--from", "2026-03-02", "-n", "2"},
-                 "starts Every 15 day of months January, April, July, October at 06:05, local time\n"
+                 "starts Every 15 day of months January, April, July, October at 06:05, local time of UTC (TZ), "
+                 "UTC+00:00 on 2026-03-02\n"
                  "Date        Day        Start\n"
                  "2026-04-15  Wednesday  06:05\n"
                  "2026-07-15  Wednesday  06:05\n"}));
@@ -101,7 +103,7 @@ TEST(NextInput, DocumentOrWindowFromStandardInput)
     const auto result = runCommand({"next", "continuous.xml", "--window", "-", "--from", "2026-03-02", "-n", "1"},
                                    "<ScheduleWindow Minutes=\"0\" Kind=\"1\"/>");
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "starts Continuously, local time\n"
+    EXPECT_EQ(result.output, "starts Continuously, local time of UTC (TZ), UTC+00:00 on 2026-03-02\n"
                              "Date        Day     Start    Window\n"
                              "2026-03-02  Monday  all day  closed all day\n");
 }

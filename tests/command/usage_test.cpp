@@ -80,9 +80,10 @@ TEST(Version, IsTold)
 TEST(Bounds, TheMostDaysAndTheLastDate)
 {
     EXPECT_EQ(runCommand({"next", "continuous.xml", "-n", "1000", "--from", "2026-03-02"}).exitCode, 0);
-    EXPECT_EQ(runCommand({"next", "continuous.xml", "--from", "9999-12-31"}).output, "starts Continuously, local time\n"
-                                                                                     "Date        Day     Start\n"
-                                                                                     "9999-12-31  Friday  all day\n");
+    EXPECT_EQ(runCommand({"next", "continuous.xml", "--from", "9999-12-31"}).output,
+              "starts Continuously, local time of UTC (TZ), UTC+00:00 on 9999-12-31\n"
+              "Date        Day     Start\n"
+              "9999-12-31  Friday  all day\n");
     EXPECT_EQ(runCommand({"next", "continuous.xml", "--from", "1400-01-01", "-n", "1"}).exitCode, 0);
 }
 

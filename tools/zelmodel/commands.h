@@ -9,3 +9,4 @@ void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
 void addNext(Dispatcher& commands);
 void addShow(Dispatcher& commands);
+void addWhy(Dispatcher& commands);

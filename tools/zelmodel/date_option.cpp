@@ -7,19 +7,40 @@
 namespace
 {
 
-constexpr const char* DateFormat = "%Y-%m-%d";
-constexpr std::size_t DateLength = 10;
+using datetime::CDateTime;
 
-zelplatform::model::CDate parseDate(const char* option, const std::string& text)
+/// How a date, or a part or more of one, is written: all of its numbers have all of their digits.
+struct Form
+{
+    const char* format;
+    const char* example;
+    const char* what;
+};
+
+constexpr Form DateForm{"%Y-%m-%d", "YYYY-MM-DD", "date"};
+constexpr Form MomentForm{"%Y-%m-%d %H:%M", "YYYY-MM-DD HH:MM", "time"};
+
+CDateTime parse(const Form& form, const char* option, const std::string& text)
 try
 {
-    if (text.size() != DateLength)
+    if (text.size() != std::string(form.example).size())
         throw exc::CRuntimeExc("The length is wrong.");
-    return zelplatform::model::CDate(datetime::CDateTime::fromString(text, DateFormat, false));
+    return CDateTime::fromString(text, form.format, false);
 }
 catch (const std::exception&)
 {
-    throw CLI::ValidationError(option, "[" + text + "] is no date from 1400 to 9999 written as YYYY-MM-DD");
+    throw CLI::ValidationError(option,
+                               "[" + text + "] is no " + form.what + " from 1400 to 9999 written as " + form.example);
+}
+
+template <class T>
+CLI::Option* addOption(CLI::App& command, const Form& form, const char* name, std::optional<T>& target,
+                       const char* description)
+{
+    return command
+        .add_option_function<std::string>(
+            name, [&form, name, &target](const std::string& text) { target = T(parse(form, name, text)); }, description)
+        ->type_name(form.example);
 }
 
 } // namespace
@@ -27,8 +48,11 @@ catch (const std::exception&)
 void addDateOption(CLI::App& command, const char* name, std::optional<zelplatform::model::CDate>& target,
                    const char* description)
 {
-    command
-        .add_option_function<std::string>(
-            name, [name, &target](const std::string& text) { target = parseDate(name, text); }, description)
-        ->type_name("YYYY-MM-DD");
+    addOption(command, DateForm, name, target, description);
+}
+
+CLI::Option* addMomentOption(CLI::App& command, const char* name, std::optional<CDateTime>& target,
+                             const char* description)
+{
+    return addOption(command, MomentForm, name, target, description);
 }

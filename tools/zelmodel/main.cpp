@@ -19,10 +19,12 @@ constexpr std::size_t LongestUsageError = 400;
 
 void addCommands(Dispatcher& commands)
 {
+    addCommands(commands);
     addConvert(commands);
     addDiff(commands);
     addNext(commands);
     addShow(commands);
+    addWhy(commands);
 }
 
 int tellUsage(const CLI::App& app, const CLI::ParseError& error)
@@ -72,7 +74,6 @@ int run(int argc, char** argv)
     app.set_version_flag("--version", Version);
     app.require_subcommand(1);
     Dispatcher commands(app);
-    addCommands(commands);
     try
     {
         app.parse(argc, argv);

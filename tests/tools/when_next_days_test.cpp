@@ -1,4 +1,4 @@
-#include "describe/next_days.h"
+#include "when/next_days.h"
 
 #include <optional>
 #include <string>
@@ -8,6 +8,7 @@
 
 #include <zelmodel/structs/schedule/schedule_parser.h>
 
+#include "local_zone.h"
 #include "support/expect_failure.h"
 #include "tree.h"
 
@@ -16,10 +17,8 @@ namespace
 
 using datetime::CDateTime;
 using datetime::EDayOfWeek;
-using describe::describeNextDays;
 using describe::EDocumentKind;
-using describe::tellWhyNothingIsNext;
-using zelmodel_test::at;
+using when::Evaluation;
 using zelplatform::model::CDate;
 using zelplatform::model::structs::BackupWindow;
 using zelplatform::model::structs::CDayOfMonth;
@@ -46,7 +45,21 @@ CWeekMask days(const std::string& names)
     return CWeekMask::FromString(names, ',');
 }
 
-/// The words of the rows: date, week day, start, full, window.
+describe::Node describeNextDays(const CScheduleOptions& schedule, const BackupWindow* window, const CDate& from,
+                                unsigned count)
+{
+    const zelmodel_test::LocalZone zone("UTC");
+    const Evaluation evaluation(schedule, window, from);
+    return when::describeDays(evaluation, from, evaluation.daysFrom(from, count));
+}
+
+std::string tellWhyNothingIsNext(const CScheduleOptions& schedule, EDocumentKind kind)
+{
+    return when::tellWhyNothingIsNext(Evaluation(schedule, nullptr, date("2026-03-02")), kind);
+}
+
+/// The words of the rows: date, week day, start, full, window. In the zone of the tests no day needs a word of the
+/// clock.
 Rows next(const CScheduleOptions& schedule, const std::string& from, unsigned count,
           const BackupWindow* window = nullptr)
 {
@@ -56,6 +69,8 @@ Rows next(const CScheduleOptions& schedule, const std::string& from, unsigned co
         rows.emplace_back();
         for (const auto& field : day.children)
             rows.back().push_back(field.words);
+        EXPECT_EQ(rows.back().back(), "");
+        rows.back().pop_back();
     }
     return rows;
 }
@@ -83,9 +98,9 @@ TEST(NextDays, NameEachField)
     CScheduleOptions schedule;
     schedule.GetJobStartOptions().SetWeekly(22, 30, days("Mon"));
     const auto root = describeNextDays(schedule, nullptr, date("2026-03-02"), 1);
-    EXPECT_EQ(root.words, "starts Every Monday at 22:30, local time");
+    EXPECT_EQ(root.words, "starts Every Monday at 22:30, local time of UTC (TZ), UTC+00:00 on 2026-03-02");
     EXPECT_EQ(zelmodel_test::namesOf(root.children.at(0)),
-              (std::vector<std::string>{"date", "weekDay", "start", "full", "window"}));
+              (std::vector<std::string>{"date", "weekDay", "start", "full", "window", "clock"}));
     EXPECT_EQ(root.children.at(0).value, "2026-03-02");
 }
 
@@ -179,7 +194,8 @@ TEST(NextDays, PeriodicalStartsWithinTheDay)
     CScheduleOptions schedule;
     schedule.GetJobStartOptions().SetPeriodically(6, 30);
     EXPECT_EQ(describeNextDays(schedule, nullptr, date("2026-03-02"), 1).words,
-              "starts Every 6 hours 30 minutes (periodical), local time, counted from 00:00 on 2026-03-02");
+              "starts Every 6 hours 30 minutes (periodical), local time of UTC (TZ), UTC+00:00 on 2026-03-02, counted "
+              "from 00:00 on 2026-03-02");
     EXPECT_EQ(next(schedule, "2026-03-02", 2), (Rows{{"2026-03-02", "Monday", "00:00 06:30 13:00 19:30", "", ""},
                                                      {"2026-03-03", "Tuesday", "02:00 08:30 15:00 21:30", "", ""}}));
     schedule.GetJobStartOptions().SetPeriodically(0, 5);
@@ -236,7 +252,8 @@ TEST(NextDays, RecurrentJobsHaveNoFullBackups)
     schedule.GetActiveFullOptions().SetWeekly(CWeekMask(true));
     EXPECT_EQ(next(schedule, "2026-03-02", 1), (Rows{{"2026-03-02", "Monday", "all day", "", ""}}));
     EXPECT_EQ(describeNextDays(schedule, nullptr, date("2026-03-02"), 1).words,
-              "starts Continuously, local time; full backups are tied to weekly and monthly schedules only");
+              "starts Continuously, local time of UTC (TZ), UTC+00:00 on 2026-03-02; full backups are tied to weekly "
+              "and monthly schedules only");
 }
 
 TEST(NextDays, APeriodicalJobWithoutAPeriodIsRefused)

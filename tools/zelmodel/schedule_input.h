@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include <zelmodel/datetime/date.h>
+#include <zelmodel/structs/schedule/backup_window.h>
+#include <zelmodel/structs/schedule/schedule_options.h>
+
+#include "describe/document_kind.h"
+#include "describe/node.h"
+#include "input.h"
+
+/// The documents of a command that asks when a job starts.
+struct ScheduleArguments
+{
+    std::string file;
+    std::string window; ///< empty: none
+};
+
+/// What they hold: the records as the library read them, and the trees that know the lines.
+struct ScheduleInput
+{
+    describe::EDocumentKind kind;
+    zelplatform::model::structs::CScheduleOptions schedule;
+    describe::Node tree;
+    std::shared_ptr<const zelplatform::model::structs::BackupWindow> window;
+    describe::Node windowTree;
+};
+
+/// Adds FILE and --window; the arguments must outlive the parsing.
+void addScheduleArguments(CLI::App& command, ScheduleArguments& arguments);
+
+/// Refuses two documents from one standard input; for the command's callback.
+void checkScheduleArguments(const ScheduleArguments& arguments);
+
+/// Reads the documents. After it the reading names the first one again.
+ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading);
+
+/// The local date of today.
+zelplatform::model::CDate today();
