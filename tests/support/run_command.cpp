@@ -63,9 +63,12 @@ Pipe makePipe()
     return {Descriptor(ends[0]), Descriptor(ends[1])};
 }
 
-[[noreturn]] void becomeCommand(std::vector<char*>& arguments, const std::vector<std::string>& environment)
+constexpr const char* ZoneOfTests = "UTC";
+
+[[noreturn]] void becomeCommand(std::vector<char*>& arguments, const std::string& zone,
+                                const std::vector<std::string>& environment)
 {
-    ::setenv("TZ", "UTC", 1);
+    ::setenv("TZ", zone.c_str(), 1);
     ::unsetenv("NO_COLOR");
     for (const auto& entry : environment)
         ::setenv(entry.c_str(), "1", 1);
@@ -131,7 +134,7 @@ int waitForEnd(pid_t child)
 }
 
 CommandResult runWithPipes(const std::vector<std::string>& arguments, const std::string& input,
-                           const std::string& outputFile)
+                           const std::string& outputFile, const std::string& zone = ZoneOfTests)
 {
     auto given = arguments;
     auto pointers = pointersTo(given);
@@ -149,7 +152,7 @@ CommandResult runWithPipes(const std::vector<std::string>& arguments, const std:
         ::dup2(in.reading.number(), STDIN_FILENO);
         ::dup2(outputFile.empty() ? out.writing.number() : file.number(), STDOUT_FILENO);
         ::dup2(err.writing.number(), STDERR_FILENO);
-        becomeCommand(pointers, {});
+        becomeCommand(pointers, zone, {});
     }
     in.reading.close();
     out.writing.close();
@@ -167,6 +170,11 @@ CommandResult runWithPipes(const std::vector<std::string>& arguments, const std:
 CommandResult runCommand(const std::vector<std::string>& arguments, const std::string& input)
 {
     return runWithPipes(arguments, input, {});
+}
+
+CommandResult runCommandInZone(const std::string& zone, const std::vector<std::string>& arguments)
+{
+    return runWithPipes(arguments, {}, {}, zone);
 }
 
 CommandResult runCommandInto(const std::string& outputFile, const std::vector<std::string>& arguments)
@@ -187,7 +195,7 @@ CommandResult runCommandOnTerminal(const std::vector<std::string>& arguments, un
     if (child < 0)
         fail("forkpty");
     if (child == 0)
-        becomeCommand(pointers, environment);
+        becomeCommand(pointers, ZoneOfTests, environment);
     const Descriptor reading(terminal);
     CommandResult result;
     while (readPiece(reading.number(), result.output))

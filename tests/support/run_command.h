@@ -18,10 +18,13 @@ struct CommandResult
 /// in the folder of the examples, so that messages name files as an example call does, in the zone UTC.
 CommandResult runCommand(const std::vector<std::string>& arguments, const std::string& input = {});
 
-/// The same with standard output going into the file instead of the result.
+/// The same in another zone.
+CommandResult runCommandInZone(const std::string& zone, const std::vector<std::string>& arguments);
+
+/// runCommand with standard output going into the file instead of the result.
 CommandResult runCommandInto(const std::string& outputFile, const std::vector<std::string>& arguments);
 
-/// The same on a terminal of the width, which gets output and messages; the named environment variables are set to 1.
+/// runCommand on a terminal of the width, which gets output and messages; the named environment variables are set to 1.
 CommandResult runCommandOnTerminal(const std::vector<std::string>& arguments, unsigned short width,
                                    const std::vector<std::string>& environment = {});
 

@@ -99,12 +99,13 @@ std::string withoutTrailingBlanks(std::string text)
     return text;
 }
 
-std::string renderTitle(const Node& node, const TextStyle& style)
+std::string renderTitle(const Node& node, const TextStyle& style, std::size_t start)
 {
     auto title = printable(node.label);
     const auto words = shownWords(node, style);
     if (!words.empty())
         title += (title.empty() ? "" : ": ") + words;
+    title = broken(title, start, style);
     return (style.isBold ? "\x1b[1m" + title + "\x1b[0m" : title) + '\n';
 }
 
@@ -153,7 +154,7 @@ std::string renderText(const Node& node, const TextStyle& style)
     std::size_t labels = 0;
     for (const auto& line : lines)
         labels = std::max(labels, columnsOf(line.label) + Gap);
-    auto text = margin.with("line") + renderTitle(node, style);
+    auto text = margin.with("line") + renderTitle(node, style, margin.width());
     for (const auto& line : lines)
     {
         const auto start = margin.width() + labels;
@@ -166,7 +167,7 @@ std::string renderText(const Node& node, const TextStyle& style)
 
 std::string renderTable(const Node& node, const TextStyle& style)
 {
-    std::string text = renderTitle(node, style);
+    std::string text = renderTitle(node, style, 0);
     if (node.children.empty())
         return text;
     const auto columns = node.children.front().children.size();

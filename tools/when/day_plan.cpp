@@ -1,10 +1,12 @@
 #include "day_plan.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <zelplatform/datetime/date_time.h>
 
 #include "describe/words.h"
+#include "local_zone.h"
 
 namespace when
 {
@@ -48,10 +50,14 @@ bool isClosedAlways(const Evaluation& evaluation, const StartDay& day)
 
 PlannedDay planDay(const Evaluation& evaluation, const CDate& date)
 {
-    PlannedDay planned{date, false, false, evaluation.fullsOn(date)};
-    const auto days = evaluation.daysFrom(date, 1, date);
-    planned.isStart = !days.empty();
-    planned.isWindowClosed = planned.isStart && isClosedAlways(evaluation, days.front());
+    PlannedDay planned{date, false, false, evaluation.fullsOn(date), {}, {}};
+    const auto day = evaluation.startsOn(date);
+    if (!day)
+        return planned;
+    planned.isStart = true;
+    planned.isWindowClosed = isClosedAlways(evaluation, *day);
+    planned.starts = day->starts;
+    planned.clock = tellClock(date, day->starts);
     return planned;
 }
 
@@ -98,6 +104,7 @@ describe::Node describeMonths(const std::vector<PlannedMonth>& months)
             add("isWindowClosed", day.isWindowClosed);
             add("isActiveFull", day.fulls.isActive);
             add("isSyntheticFull", day.fulls.isSynthetic);
+            item.children.push_back(makeField("clock", "", day.clock, day.clock));
             list.children.push_back(std::move(item));
         }
         node.children.push_back(std::move(list));

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <zelmodel/datetime/date.h>
+#include <zelplatform/datetime/date_time.h>
 
 #include "describe/node.h"
 #include "evaluation.h"
@@ -16,8 +17,10 @@ struct PlannedDay
 {
     zelplatform::model::CDate date;
     bool isStart = false;
-    bool isWindowClosed = false; ///< at every start of the day
+    bool isWindowClosed = false; ///< whenever the job starts on the day
     Fulls fulls;                 ///< that are scheduled on the day, whether the job starts or not
+    std::vector<datetime::CDateTime> starts;
+    std::string clock; ///< what the clock does on a day with starts that has not 24 hours
 };
 
 /// A month of them.

@@ -1,5 +1,7 @@
 #include "evaluation.h"
 
+#include <utility>
+
 #include <zelmodel/datetime/date_time_helper.h>
 #include <zelplatform/exc/exc.h>
 
@@ -104,25 +106,19 @@ Fulls Evaluation::fullsOn(const CDate& date) const
             m_schedule.GetSyntheticFullOptions().IsScheduledAt(date)};
 }
 
-StartDay Evaluation::startsOn(const CDate& date) const
+std::optional<StartDay> Evaluation::startsOn(const CDate& date) const
 {
+    if (!isScheduledOn(date))
+        return std::nullopt;
     StartDay day{date, {}, fullsOn(date)};
     if (!m_rhythm)
         return day;
     const long begin = midnight(date).toUnixTime();
     for (long at = restOf(m_rhythm->start - begin, m_rhythm->step); at < SecondsOfDay; at += m_rhythm->step)
         day.starts.push_back(later(date, at));
+    if (day.starts.empty())
+        return std::nullopt;
     return day;
-}
-
-// A period above a day passes days over.
-bool Evaluation::addDay(const CDate& date, std::vector<StartDay>& days) const
-{
-    auto day = startsOn(date);
-    const bool isStart = !m_rhythm || !day.starts.empty();
-    if (isStart)
-        days.push_back(std::move(day));
-    return isStart;
 }
 
 std::vector<StartDay> Evaluation::daysFrom(const CDate& from, std::size_t count, const std::optional<CDate>& last) const
@@ -130,13 +126,11 @@ std::vector<StartDay> Evaluation::daysFrom(const CDate& from, std::size_t count,
     std::vector<StartDay> days;
     if (m_schedule.GetJobStartOptions().IsDisabled())
         return days;
-    auto date = isScheduledOn(from) ? from : calendar().GetNextScheduleDateFromDate(from);
-    while (date && (!last || *date <= *last))
+    for (std::optional<CDate> date = from; date && (!last || *date <= *last) && days.size() < count;
+         date = calendar().GetNextScheduleDateFromDate(*date))
     {
-        addDay(*date, days);
-        if (days.size() == count)
-            break;
-        date = calendar().GetNextScheduleDateFromDate(*date);
+        if (auto day = startsOn(*date))
+            days.push_back(std::move(*day));
     }
     return days;
 }
@@ -148,12 +142,15 @@ std::vector<StartDay> Evaluation::daysBefore(const CDate& date, std::size_t coun
     std::vector<StartDay> days;
     if (m_schedule.GetJobStartOptions().IsDisabled())
         return days;
-    auto day = midnight(date);
-    for (auto bound = yearsBefore(day, YearsToSearch); day > bound && days.size() < count;)
+    auto current = midnight(date);
+    for (auto bound = yearsBefore(current, YearsToSearch); current > bound && days.size() < count;)
     {
-        day = later(day, -SecondsOfDay);
-        if (isScheduledOn(CDate(day)) && addDay(CDate(day), days))
-            bound = yearsBefore(day, YearsToSearch);
+        current = later(current, -SecondsOfDay);
+        if (auto day = startsOn(CDate(current)))
+        {
+            days.push_back(std::move(*day));
+            bound = yearsBefore(current, YearsToSearch);
+        }
     }
     return days;
 }

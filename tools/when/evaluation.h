@@ -55,8 +55,8 @@ public:
     /// The full backups of the day: of a recurrent job there are none.
     Fulls fullsOn(const zelplatform::model::CDate& date) const;
 
-    /// The starts of a day that is scheduled.
-    StartDay startsOn(const zelplatform::model::CDate& date) const;
+    /// The starts of the day; nothing when there is none, which a period above a day can bring about, too.
+    std::optional<StartDay> startsOn(const zelplatform::model::CDate& date) const;
 
     /// The days on which the job starts from the date on, at most so many and none after the last one, if there is one.
     std::vector<StartDay> daysFrom(const zelplatform::model::CDate& from, std::size_t count,
@@ -75,7 +75,6 @@ private:
     };
 
     std::optional<Rhythm> rhythm() const;
-    bool addDay(const zelplatform::model::CDate& date, std::vector<StartDay>& days) const;
 
     const zelplatform::model::structs::CScheduleOptions& m_schedule;
     const zelplatform::model::structs::BackupWindow* m_window;

@@ -81,10 +81,15 @@ long firstInstantOf(const CDateTime& midnight)
     return changeBetween(wallClock - SecondsOfDay, wallClock + SecondsOfDay);
 }
 
+CScheduleTime asTime(long seconds)
+{
+    const auto minutes = static_cast<unsigned long>(seconds / SecondsOfMinute);
+    return CScheduleTime(minutes / 60, minutes % 60);
+}
+
 std::string tellOffset(long seconds)
 {
-    const auto minutes = static_cast<unsigned long>(std::labs(seconds) / SecondsOfMinute);
-    return (seconds < 0 ? "UTC-" : "UTC+") + CScheduleTime(minutes / 60, minutes % 60).ToTimeStr();
+    return (seconds < 0 ? "UTC-" : "UTC+") + asTime(std::labs(seconds)).ToTimeStr();
 }
 
 std::string zoneOfMachine()
@@ -182,7 +187,7 @@ std::string tellClock(const CDate& date, const std::vector<CDateTime>& times)
     if (length == 0)
         return "the calendar leaves this day out";
     const long start = firstInstantOf(date);
-    return describe::duration(static_cast<unsigned long>(length) * 1000) + ": " + tellChange(start, start + length) +
+    return asTime(length).ToUserFriendlyStr() + ": " + tellChange(start, start + length) +
            tellTimesRead(times, EReading::Never, " is left out", " are left out") +
            tellTimesRead(times, EReading::Twice, " comes twice", " come twice");
 }

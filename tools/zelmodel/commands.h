@@ -5,6 +5,7 @@
 /// Each defines one command: its options and its work. The work gives the exit code; what it reads is told in the
 /// session, so that whoever catches a refusal can say in which file and on which line.
 
+void addCalendar(Dispatcher& commands);
 void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
 void addNext(Dispatcher& commands);

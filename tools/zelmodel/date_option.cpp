@@ -8,6 +8,7 @@ namespace
 {
 
 using datetime::CDateTime;
+using zelplatform::model::CDate;
 
 /// How a date, or a part or more of one, is written: all of its numbers have all of their digits.
 struct Form
@@ -18,6 +19,8 @@ struct Form
 };
 
 constexpr Form DateForm{"%Y-%m-%d", "YYYY-MM-DD", "date"};
+constexpr Form MonthForm{"%Y-%m", "YYYY-MM", "month"};
+constexpr Form YearForm{"%Y", "YYYY", "year"};
 constexpr Form MomentForm{"%Y-%m-%d %H:%M", "YYYY-MM-DD HH:MM", "time"};
 
 CDateTime parse(const Form& form, const char* option, const std::string& text)
@@ -45,10 +48,19 @@ CLI::Option* addOption(CLI::App& command, const Form& form, const char* name, st
 
 } // namespace
 
-void addDateOption(CLI::App& command, const char* name, std::optional<zelplatform::model::CDate>& target,
-                   const char* description)
+CLI::Option* addDateOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
 {
-    addOption(command, DateForm, name, target, description);
+    return addOption(command, DateForm, name, target, description);
+}
+
+CLI::Option* addMonthOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
+{
+    return addOption(command, MonthForm, name, target, description);
+}
+
+CLI::Option* addYearOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
+{
+    return addOption(command, YearForm, name, target, description);
 }
 
 CLI::Option* addMomentOption(CLI::App& command, const char* name, std::optional<CDateTime>& target,

@@ -19,6 +19,7 @@ constexpr std::size_t LongestUsageError = 400;
 
 void addCommands(Dispatcher& commands)
 {
+    addCalendar(commands);
     addCommands(commands);
     addConvert(commands);
     addDiff(commands);

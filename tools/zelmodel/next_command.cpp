@@ -1,4 +1,3 @@
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -6,7 +5,6 @@
 #include "commands.h"
 #include "date_option.h"
 #include "describe/json_renderer.h"
-#include "describe/terminal_text.h"
 #include "exit_code.h"
 #include "schedule_input.h"
 #include "when/next_days.h"
@@ -32,11 +30,7 @@ int next(const Arguments& arguments, Session& session)
     const when::Evaluation evaluation(input.schedule, input.window.get(), from);
     const auto days = evaluation.daysFrom(from, arguments.count);
     if (days.empty())
-    {
-        std::cerr << describe::printable(shownName(arguments.documents.file)) << ": "
-                  << describe::printable(when::tellWhyNothingIsNext(evaluation, input.kind)) << '\n';
-        return exit_code::NotScheduled;
-    }
+        return tellNothing(session, arguments.documents, "next", when::tellWhyNothingIsNext(evaluation, input.kind));
     const auto tree = when::describeDays(evaluation, from, days);
     const auto& style = session.output.style();
     if (session.output.isJson())

@@ -1,6 +1,11 @@
 #include "schedule_input.h"
 
+#include <iostream>
+
 #include <zelplatform/datetime/date_time.h>
+
+#include "describe/terminal_text.h"
+#include "exit_code.h"
 
 void addScheduleArguments(CLI::App& command, ScheduleArguments& arguments)
 {
@@ -17,7 +22,11 @@ void checkScheduleArguments(const ScheduleArguments& arguments)
 
 ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading)
 {
-    const auto& document = openDocument(arguments.file, reading);
+    return readSchedule(openDocument(arguments.file, reading), arguments, reading);
+}
+
+ScheduleInput readSchedule(const describe::Document& document, const ScheduleArguments& arguments, Reading& reading)
+{
     ScheduleInput input{document.kind(), document.readSchedule(), document.describe(), nullptr, {}};
     if (!arguments.window.empty())
     {
@@ -27,6 +36,15 @@ ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading)
     }
     reading = Reading{arguments.file, std::nullopt};
     return input;
+}
+
+int tellNothing(const Session& session, const ScheduleArguments& arguments, const char* kind, const std::string& reason)
+{
+    if (session.output.isJson())
+        session.output.printJson(kind, arguments.file, {{"notScheduled", reason}});
+    else
+        std::cerr << describe::printable(shownName(arguments.file)) << ": " << describe::printable(reason) << '\n';
+    return exit_code::NotScheduled;
 }
 
 zelplatform::model::CDate today()

@@ -10,8 +10,10 @@
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/schedule_options.h>
 
+#include "describe/document.h"
 #include "describe/document_kind.h"
 #include "describe/node.h"
+#include "dispatcher.h"
 #include "input.h"
 
 /// The documents of a command that asks when a job starts.
@@ -39,6 +41,13 @@ void checkScheduleArguments(const ScheduleArguments& arguments);
 
 /// Reads the documents. After it the reading names the first one again.
 ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading);
+
+/// The same when the first document is open already: it is the one of the reading.
+ScheduleInput readSchedule(const describe::Document& document, const ScheduleArguments& arguments, Reading& reading);
+
+/// Says that the job does not start, and why; gives the exit code.
+int tellNothing(const Session& session, const ScheduleArguments& arguments, const char* kind,
+                const std::string& reason);
 
 /// The local date of today.
 zelplatform::model::CDate today();
