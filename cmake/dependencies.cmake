@@ -5,6 +5,7 @@ find_package(fmt REQUIRED CONFIG)
 find_package(spdlog REQUIRED CONFIG)
 find_package(CLI11 REQUIRED CONFIG)
 find_package(nlohmann_json REQUIRED CONFIG)
+find_package(ZLIB REQUIRED)
 
 # Older releases of magic_enum put their header into the include root, newer ones into a folder of its own; both are
 # reached as <magic_enum.hpp>.

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include <zelplatform/util/byte_words.h>
 #include <zelplatform/util/util.h>
 
 namespace describe
@@ -73,12 +74,42 @@ std::string escaped(std::uint32_t code)
     }
 }
 
+constexpr std::uint64_t TopBits = util::eachByte(0x80);
+
+// Not 0 when one of the eight bytes is no printable ASCII character. A borrow or carry reaches the byte above only from
+// one that counts itself.
+std::uint64_t unprintables(std::uint64_t bytes) noexcept
+{
+    return ((bytes - util::eachByte(0x20)) | (bytes + util::eachByte(0x01)) | bytes) & TopBits;
+}
+
+bool isPrintableAscii(std::string_view text) noexcept
+{
+    std::uint64_t found = 0;
+    std::size_t at = 0;
+    for (; text.size() - at >= 8; at += 8)
+        found |= unprintables(util::eightBytesAt(text.data() + at));
+    for (; at < text.size(); ++at)
+        found |= unprintables(util::eachByte(static_cast<unsigned char>(text[at])));
+    return found == 0;
+}
+
 } // namespace
 
 std::string printable(std::string_view text)
 {
     std::string shown;
-    shown.reserve(text.size());
+    appendPrintable(shown, text);
+    return shown;
+}
+
+void appendPrintable(std::string& shown, std::string_view text)
+{
+    if (isPrintableAscii(text))
+    {
+        shown += text;
+        return;
+    }
     while (!text.empty())
     {
         const auto character = decode(text);
@@ -89,7 +120,6 @@ std::string printable(std::string_view text)
             shown += text.substr(0, length);
         text.remove_prefix(length);
     }
-    return shown;
 }
 
 std::string shortened(std::string_view text, std::size_t limit)

@@ -11,6 +11,9 @@ namespace describe
 /// UTF-8 ("\xff"), and the invisible characters that turn the writing direction or break lines ("\u202e").
 std::string printable(std::string_view text);
 
+/// The same behind a text that is there; text that needs no escape is passed on eight bytes at a time.
+void appendPrintable(std::string& shown, std::string_view text);
+
 /// The text when it has at most so many bytes; else its beginning and its end, with the number of bytes that were left
 /// out between them. No UTF-8 character is cut. The limit is at least 16.
 std::string shortened(std::string_view text, std::size_t limit);

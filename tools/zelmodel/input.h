@@ -1,20 +1,14 @@
 #pragma once
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 
 #include "describe/document.h"
+#include "files/input_file.h"
 
-/// A file that cannot be opened or read; the text says which and why.
-class InputError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// The argument that stands for standard input.
-constexpr const char* StandardInput = "-";
+using files::InputError;
+using files::shownName;
+using files::StandardInput;
 
 /// What is being read. It outlives the reading, so that a refusal can say in which file and on which line.
 struct Reading
@@ -25,9 +19,6 @@ struct Reading
     /// The line of the refusal; 0 when none is known.
     int line() const { return document ? document->lastReadLine() : 0; }
 };
-
-/// The name of an input for messages.
-std::string shownName(const std::string& name);
 
 /// The whole input; throws InputError when it cannot be read, and refuses (exc::CRuntimeExc) one that is longer than
 /// any document may be, before it is read whole.

@@ -37,6 +37,11 @@ describe::TextStyle styleOf(const OutputOptions& options)
 
 Output::Output(const OutputOptions& options) : m_isJson(options.isJson), m_style(styleOf(options)) {}
 
+bool Output::isGood() const
+{
+    return std::cout.good();
+}
+
 void Output::print(const std::string& text) const
 {
     std::cout << text;

@@ -24,6 +24,9 @@ public:
     bool isJson() const noexcept { return m_isJson; }
     const describe::TextStyle& style() const noexcept { return m_style; }
 
+    /// Whether standard output took everything so far.
+    bool isGood() const;
+
     /// Prints text for people on standard output. What comes from outside must be escaped by then (see
     /// describe::printable).
     void print(const std::string& text) const;

@@ -1,0 +1,140 @@
+#include "log_printer.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "describe/terminal_text.h"
+#include "describe/text_renderer.h"
+#include "describe/words.h"
+#include "input.h"
+#include "logs/summary.h"
+
+namespace
+{
+
+using describe::appendPrintable;
+using describe::printable;
+using describe::shortened;
+
+constexpr std::size_t PieceSize = 64UL * 1024;
+constexpr std::size_t LongestReason = 400;
+
+/// What both forms of text have in common: messages for people on standard error.
+class TextPrinter : public LogPrinter
+{
+public:
+    TextPrinter(const Output& output, bool listsSkipped) : LogPrinter(output), m_listsSkipped(listsSkipped) {}
+
+    void skipped(const std::string& file, const logs::LogReader& reader) override
+    {
+        if (!m_listsSkipped)
+            return;
+        flush();
+        std::cerr << printable(shownName(file)) << ':' << reader.number()
+                  << ": skipped: " << printable(shortened(reader.reason(), LongestReason)) << '\n';
+    }
+
+    void done(const LogReport& report) override
+    {
+        flush();
+        if (report.counts.skipped > 0 && !m_listsSkipped)
+            std::cerr << printable(shownName(report.file)) << ": " << report.counts.skipped << " of "
+                      << describe::countOf(report.counts.lines, "line") << " skipped (--skipped lists them)\n";
+    }
+
+    void failed(const LogFailure& failure) override
+    {
+        flush();
+        if (failure.refused.empty())
+            output().printFailure(failure.file, failure.failed);
+        else
+            output().printRefusal(failure.file, 0, failure.refused);
+    }
+
+private:
+    bool m_listsSkipped;
+};
+
+class LinePrinter : public TextPrinter
+{
+public:
+    using TextPrinter::TextPrinter;
+
+    void record(const std::string&, const logs::LogReader& reader) override
+    {
+        appendPrintable(collection(), reader.text());
+        collection() += '\n';
+        collected();
+    }
+
+    void end() override { flush(); }
+};
+
+std::size_t longestLineOf(const std::string& text)
+{
+    std::size_t longest = 0;
+    for (std::size_t from = 0; from < text.size();)
+    {
+        const auto end = std::min(text.find('\n', from), text.size());
+        longest = std::max(longest, end - from);
+        from = end + 1;
+    }
+    return longest;
+}
+
+/// A table; where the terminal is too narrow for it, a block for each session.
+class SummaryPrinter : public TextPrinter
+{
+public:
+    using TextPrinter::TextPrinter;
+
+    void record(const std::string&, const logs::LogReader& reader) override { m_summary.add(reader.record()); }
+
+    void end() override
+    {
+        const auto& style = output().style();
+        auto tree = logs::describeSummary(m_summary);
+        const auto table = describe::renderTable(tree, style);
+        if (style.width == 0 || longestLineOf(table) <= style.width)
+        {
+            output().print(table);
+            return;
+        }
+        output().print(describe::printable(tree.words) + '\n');
+        for (auto& session : tree.children)
+        {
+            session.children.erase(session.children.begin());
+            output().print(describe::renderText(session, style));
+        }
+    }
+
+private:
+    logs::Summary m_summary;
+};
+
+} // namespace
+
+LogPrinter::~LogPrinter() = default;
+
+void LogPrinter::flush()
+{
+    m_output.print(m_collection);
+    m_collection.clear();
+}
+
+void LogPrinter::collected()
+{
+    if (m_collection.size() >= PieceSize)
+        flush();
+}
+
+std::unique_ptr<LogPrinter> makeLogPrinter(const Output& output, const LogForm& form, const std::string& name)
+{
+    if (form.isJsonLines)
+        return makeJsonLinePrinter(output, form);
+    if (output.isJson())
+        return makeJsonSummaryPrinter(output, form, name);
+    if (form.isSummary)
+        return std::make_unique<SummaryPrinter>(output, form.listsSkipped);
+    return std::make_unique<LinePrinter>(output, form.listsSkipped);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+
+#include <CLI/CLI.hpp>
+
+/// A moment as precise as it was written: a day, a minute or a second, in seconds since 1970-01-01 00:00:00 UTC.
+struct MomentRange
+{
+    long first = 0;
+    long last = 0; ///< the last second that still belongs to it
+};
+
+/// Adds an option that takes "YYYY-MM-DD[ HH:MM[:SS]]", in UTC and to the letter, and sets the target, which must
+/// outlive the parsing.
+void addMomentOption(CLI::App& command, const char* name, std::optional<MomentRange>& target, const char* description);
