@@ -58,12 +58,6 @@ std::size_t InputFile::read(char* to, std::size_t room)
     }
 }
 
-void InputFile::rewind()
-{
-    if (::lseek(m_number, 0, SEEK_SET) < 0)
-        failToRead();
-}
-
 bool InputFile::isRegular() const
 {
     return S_ISREG(statusOf(m_number).st_mode);

@@ -49,9 +49,6 @@ public:
     /// Reads at most so many bytes; 0 at the end. Throws InputError.
     std::size_t read(char* to, std::size_t room);
 
-    /// Reads on from the first byte.
-    void rewind();
-
     /// False for pipes, terminals and other devices.
     bool isRegular() const;
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "gzip_source.h"
+
 namespace logs
 {
 namespace
@@ -36,7 +38,10 @@ std::string_view PlainSource::peek(std::size_t count)
 
 std::unique_ptr<ByteSource> openSource(files::InputFile& file)
 {
-    return std::make_unique<PlainSource>(file);
+    auto plain = std::make_unique<PlainSource>(file);
+    if (!GzipSource::isGzip(plain->peek(GzipSource::BytesToTell)))
+        return plain;
+    return std::make_unique<GzipSource>(std::move(plain));
 }
 
 } // namespace logs

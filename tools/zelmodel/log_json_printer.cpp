@@ -63,6 +63,11 @@ public:
 
     void done(const LogReport& report) override { add("end", jsonOf(report)); }
 
+    void changed(const std::string& file, logs::EChange change) override
+    {
+        add(change == logs::EChange::Replaced ? "replaced" : "truncated", {{"file", shownName(file)}});
+    }
+
     void failed(const LogFailure& failure) override { add("error", jsonOf(failure)); }
 
     void end() override { flush(); }
@@ -98,6 +103,8 @@ public:
     }
 
     void done(const LogReport& report) override { m_files.push_back(jsonOf(report)); }
+
+    void changed(const std::string&, logs::EChange) override {}
 
     void failed(const LogFailure& failure) override { m_errors.push_back(jsonOf(failure)); }
 

@@ -42,6 +42,13 @@ public:
                       << describe::countOf(report.counts.lines, "line") << " skipped (--skipped lists them)\n";
     }
 
+    void changed(const std::string& file, logs::EChange change) override
+    {
+        std::cerr << printable(shownName(file))
+                  << (change == logs::EChange::Replaced ? ": replaced, going on with the new file\n"
+                                                        : ": truncated, going on from its beginning\n");
+    }
+
     void failed(const LogFailure& failure) override
     {
         flush();

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "logs/follow.h"
 #include "logs/log_reader.h"
 #include "output.h"
 
@@ -49,6 +50,9 @@ public:
 
     /// The file was read as far as that was possible.
     virtual void done(const LogReport& report) = 0;
+
+    /// The file that is followed begins again.
+    virtual void changed(const std::string& file, logs::EChange change) = 0;
 
     virtual void failed(const LogFailure& failure) = 0;
 

@@ -19,6 +19,12 @@ using nlohmann::ordered_json;
 constexpr int JsonSchema = 1;
 constexpr std::size_t LongestSentence = 400;
 
+bool isPlainWanted(const OutputOptions& options)
+{
+    const char* noColor = std::getenv("NO_COLOR");
+    return options.isPlain || (noColor != nullptr && *noColor != '\0');
+}
+
 describe::TextStyle styleOf(const OutputOptions& options)
 {
     describe::TextStyle style;
@@ -28,14 +34,21 @@ describe::TextStyle styleOf(const OutputOptions& options)
     struct winsize size = {};
     if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0)
         style.width = size.ws_col;
-    const char* noColor = std::getenv("NO_COLOR");
-    style.isBold = !options.isPlain && (noColor == nullptr || *noColor == '\0');
+    style.isBold = !isPlainWanted(options);
     return style;
 }
 
 } // namespace
 
-Output::Output(const OutputOptions& options) : m_isJson(options.isJson), m_style(styleOf(options)) {}
+Output::Output(const OutputOptions& options)
+    : m_isJson(options.isJson), m_isPlain(isPlainWanted(options)), m_style(styleOf(options))
+{
+}
+
+void Output::flush() const
+{
+    std::cout.flush();
+}
 
 bool Output::isGood() const
 {

@@ -24,6 +24,12 @@ public:
     bool isJson() const noexcept { return m_isJson; }
     const describe::TextStyle& style() const noexcept { return m_style; }
 
+    /// Whether the user wants neither colours nor moving pictures.
+    bool isPlain() const noexcept { return m_isPlain; }
+
+    /// Hands on what was printed so far, for whoever reads along.
+    void flush() const;
+
     /// Whether standard output took everything so far.
     bool isGood() const;
 
@@ -44,5 +50,6 @@ public:
 
 private:
     bool m_isJson;
+    bool m_isPlain;
     describe::TextStyle m_style;
 };
