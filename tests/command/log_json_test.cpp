@@ -1,0 +1,111 @@
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "support/run_command.h"
+
+namespace
+{
+
+using nlohmann::json;
+using zelmodel_test::runCommand;
+
+const std::string Start = "2024-03-07 13:05:09 UTC 5f0c2b7a-91d4-4e38-8a66-0d3be1f7c295 info ";
+
+std::vector<json> jsonLines(const std::string& text)
+{
+    std::vector<json> objects;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        objects.push_back(json::parse(line));
+    return objects;
+}
+
+TEST(LogJson, IsOneDocumentWithTheSummary)
+{
+    const auto result = runCommand({"log", "logs/nightly.log", "--json", "--skipped", "--severity", "warn"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.messages, "");
+    const auto document = json::parse(result.output);
+    EXPECT_EQ(document["kind"], "log");
+    EXPECT_EQ(document["schema"], 1);
+    EXPECT_EQ(document["file"], "logs/nightly.log");
+    ASSERT_EQ(document["sessions"]["items"].size(), 1U);
+    const auto& fields = document["sessions"]["items"][0]["fields"];
+    EXPECT_EQ(fields["id"]["value"], "b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604");
+    EXPECT_EQ(fields["first"]["value"], "2024-03-07 22:41:17 UTC");
+    EXPECT_EQ(fields["duration"]["value"], 1365);
+    EXPECT_EQ(fields["duration"]["words"], "00:22:45");
+    EXPECT_EQ(fields["warn"]["value"], 1);
+    EXPECT_EQ(fields["worst"]["value"], "error");
+    EXPECT_EQ(document["files"], json::parse(R"([{"file": "logs/nightly.log", "lines": 11, "records": 8, "told": 2,
+                                                  "empty": 1, "skipped": 2}])"));
+    EXPECT_EQ(document["skipped"], json::parse(R"([
+        {"file": "logs/nightly.log", "line": 6, "reason": "Line [Log of the service restarted] is skipped."},
+        {"file": "logs/nightly.log", "line": 8, "reason": "Invalid severity value string [Warn]."}])"));
+    EXPECT_EQ(document.count("errors"), 0U);
+}
+
+TEST(LogJson, ListsTheFirstThousandSkippedLinesAndCountsAll)
+{
+    std::string input;
+    for (int i = 0; i < 1500; ++i)
+        input += "no record\n";
+    const auto document = json::parse(runCommand({"log", "-", "--json", "--skipped"}, input).output);
+    EXPECT_EQ(document["skipped"].size(), 1000U);
+    EXPECT_EQ(document["files"][0]["skipped"], 1500);
+    EXPECT_EQ(json::parse(runCommand({"log", "-", "--json"}, input).output).count("skipped"), 0U);
+}
+
+TEST(LogJson, FailuresStandInTheDocument)
+{
+    const auto result = runCommand({"log", "logs/nightly.log", "missing.log", "--json"});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_EQ(result.messages, "");
+    const auto document = json::parse(result.output);
+    EXPECT_EQ(document["errors"],
+              json::parse(R"([{"file": "missing.log", "failed": "cannot be read: No such file or directory"}])"));
+    EXPECT_EQ(document["sessions"]["items"].size(), 2U);
+}
+
+TEST(LogJson, WhereNothingCouldBeReadItIsAnError)
+{
+    const auto result = runCommand({"log", "missing.log", "--json"});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_EQ(json::parse(result.output), json::parse(R"({"kind": "error", "schema": 1, "file": "missing.log",
+                                                          "failed": "cannot be read: No such file or directory"})"));
+}
+
+TEST(LogJsonLines, AreOneObjectForEachRecord)
+{
+    const auto objects = jsonLines(
+        runCommand({"log", "logs/nightly.log", "missing.log", "--json-lines", "--skipped", "--severity", "error"})
+            .output);
+    ASSERT_EQ(objects.size(), 5U);
+    EXPECT_EQ(objects[0]["kind"], "skipped");
+    EXPECT_EQ(objects[1], json::parse(R"({"kind": "skipped", "file": "logs/nightly.log", "line": 8,
+                                          "reason": "Invalid severity value string [Warn]."})"));
+    EXPECT_EQ(objects[2], json::parse(R"({"kind": "record", "file": "logs/nightly.log", "line": 10,
+                                          "time": "2024-03-07 23:04:02 UTC",
+                                          "session": "b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604", "severity": "error",
+                                          "message": "No space left on the repository"})"));
+    EXPECT_EQ(objects[3], json::parse(R"({"kind": "end", "file": "logs/nightly.log", "lines": 11, "records": 8,
+                                          "told": 1, "empty": 1, "skipped": 2})"));
+    EXPECT_EQ(objects[4], json::parse(R"({"kind": "error", "file": "missing.log",
+                                          "failed": "cannot be read: No such file or directory"})"));
+}
+
+TEST(LogJsonLines, MalformedTextIsReplaced)
+{
+    const auto objects = jsonLines(
+        runCommand({"log", "-", "--json-lines", "--skipped"}, Start + "a\xff\x1b" + "b\nno \xfe record\n").output);
+    ASSERT_EQ(objects.size(), 3U);
+    EXPECT_EQ(objects[0]["message"], "a\xef\xbf\xbd\x1b"
+                                     "b");
+    EXPECT_EQ(objects[1]["reason"], "Line [no \xef\xbf\xbd record] is skipped.");
+}
+
+} // namespace
