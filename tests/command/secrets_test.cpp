@@ -172,7 +172,10 @@ TEST(SecretsOfExamples, AreNotShown)
     {
         if (entry.path().extension() != ".xml")
             continue;
-        const bool isRefused = entry.path().parent_path().filename() == "refused";
+        const auto folder = entry.path().parent_path().filename();
+        if (folder == "binary")
+            continue;
+        const bool isRefused = folder == "refused";
         const auto result = runCommand({"show", entry.path().string()});
         EXPECT_EQ(result.exitCode, isRefused ? 3 : 0) << entry.path();
         EXPECT_EQ(result.output.find("not-a-real"), std::string::npos) << entry.path();

@@ -8,6 +8,7 @@
 void addCalendar(Dispatcher& commands);
 void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
+void addDump(Dispatcher& commands);
 void addLog(Dispatcher& commands);
 void addNext(Dispatcher& commands);
 void addShow(Dispatcher& commands);

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+
+#include <zelplatform/crypto/sec_buffer.h>
 
 #include "describe/document.h"
 #include "files/input_file.h"
@@ -23,6 +26,9 @@ struct Reading
 /// The whole input; throws InputError when it cannot be read, and refuses (exc::CRuntimeExc) one that is longer than
 /// any document may be, before it is read whole.
 std::string readInput(const std::string& name);
+
+/// The same of an input that may hold keys, into secure memory; at most so many bytes.
+crypto::sec_buffer_t readSecret(const std::string& name, std::size_t mostBytes);
 
 /// Reads and parses the input; the reading tells of it until the next one.
 const describe::Document& openDocument(const std::string& name, Reading& reading);

@@ -23,6 +23,7 @@ void addCommands(Dispatcher& commands)
     addCommands(commands);
     addConvert(commands);
     addDiff(commands);
+    addDump(commands);
     addLog(commands);
     addNext(commands);
     addShow(commands);
