@@ -1,6 +1,9 @@
 #include "dump.h"
 
+#include <map>
+
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/guid/guid.h>
 #include <zelplatform/util/util.h>
 
 #include "describe/words.h"
@@ -72,11 +75,11 @@ std::size_t confirmedItems(const Span& root, bool isFaultInside)
     return items.size() > unsure ? items.size() - unsure : 0;
 }
 
-/// A sentence of the library may quote the value that it refuses.
+/// Where a sentence of the library quotes the value that it refuses, it stands in square brackets.
 std::string withoutQuote(std::string sentence, std::string_view hidden)
 {
-    const auto at = hidden.empty() ? std::string::npos : sentence.find(hidden);
-    return at == std::string::npos ? sentence : sentence.replace(at, hidden.size(), hiddenBytes(hidden.size()));
+    const auto at = sentence.find('[' + std::string(hidden) + ']');
+    return at == std::string::npos ? sentence : sentence.replace(at + 1, hidden.size(), hiddenBytes(hidden.size()));
 }
 
 Refusal refusalAt(const Span& root, std::string_view bytes, const Verdict& verdict, const Visibility& visibility)
@@ -85,7 +88,7 @@ Refusal refusalAt(const Span& root, std::string_view bytes, const Verdict& verdi
     Refusal refusal{fault.offset, pathOfLast(root), verdict.sentences};
     if (fault.row == nullptr)
         return refusal;
-    if (!isShown(fault, bytes, visibility))
+    if (!fault.isCut() && !isShown(fault, bytes, visibility))
     {
         for (auto& sentence : refusal.sentences)
             sentence = withoutQuote(std::move(sentence), fault.contentIn(bytes));
@@ -117,6 +120,19 @@ std::string guessed(const Form& form)
     return "No binary form reads the whole of it; the form " + std::string(form.name) + " comes nearest.";
 }
 
+/// Of items with one identifier the library keeps the last; the others are marked.
+void markReplaced(std::vector<Field>& items)
+{
+    std::map<guid::guid_t, std::string> last;
+    for (auto item = items.rbegin(); item != items.rend(); ++item)
+    {
+        const auto id = guid::guid_t::FromAStr(item->fields.front().node.value);
+        const auto [kept, isLast] = last.try_emplace(id, item->node.label);
+        if (!isLast)
+            item->node.words = "passed over: " + kept->second + " has the same identifier";
+    }
+}
+
 /// What the library refused: the fields up to there.
 void tellRefused(Recognised& found, bool showsSecrets, Dump& result)
 {
@@ -138,9 +154,15 @@ void tellRead(Recognised& found, bool showsSecrets, Dump& result)
     auto& root = found.chosen.walk.root();
     Visibility visibility;
     visibility.showsSecrets = showsSecrets;
+    visibility.isRead = true;
     visibility.isSure = found.isRead;
     visibility.sureItems = result.form->holdsKeys ? confirmedItems(root, false) : 0;
     result.fields = tellSpans(root.children, found.bytes, visibility);
+    for (auto& list : result.fields)
+    {
+        if (list.node.isList && !list.fields.empty() && !list.fields.front().fields.empty())
+            markReplaced(list.fields);
+    }
     const auto end = found.chosen.verdict.consumed;
     if (end < found.bytes.size())
         result.fields.push_back(leftOver(end, found.bytes.size()));

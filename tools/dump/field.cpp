@@ -26,7 +26,7 @@ Field tellValue(const Span& span, std::string_view bytes, const Visibility& visi
     else
         field.node.words = hiddenBytes(content.size());
     field.node.secret = span.row->shown == EShown::Secret ? span.announced != 0 : !shows;
-    if (span.row->document != nullptr && visibility.isSure)
+    if (span.row->document != nullptr && visibility.isRead)
         field.document = span.row->document(std::string(content));
     return field;
 }

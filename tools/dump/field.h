@@ -25,6 +25,7 @@ struct Field
 struct Visibility
 {
     bool showsSecrets = false;
+    bool isRead = false; ///< the library read the form, so that the documents in it can be told
 
     /// Of a form that was read without a fault, or that holds no keys and was named by the user.
     bool isSure = false;

@@ -83,10 +83,12 @@ bool isBase64Digit(char c) noexcept
            c == '=';
 }
 
-/// Binary forms begin with a length or a number, so they hold bytes that no text has.
+/// Binary forms begin with a length or a number, so they hold bytes that no text has. Base64 has at least four digits.
 bool looksLikeText(std::string_view input)
 {
-    return std::all_of(input.begin(), input.end(), [](char c) { return isBlank(c) || (c > ' ' && c <= '~'); });
+    constexpr std::size_t least = 4;
+    return input.size() >= least &&
+           std::all_of(input.begin(), input.end(), [](char c) { return isBlank(c) || (c > ' ' && c <= '~'); });
 }
 
 std::string whyNoBase64(std::string_view input)
@@ -119,7 +121,7 @@ catch (const exc::CRuntimeExc& cause)
 Recognised recognise(std::string_view input, const Form* named)
 {
     auto raw = choose(input, named);
-    if (raw.isRead || input.empty() || !looksLikeText(input) || (named != nullptr && named->isText))
+    if (raw.isRead || !looksLikeText(input) || (named != nullptr && named->isText))
         return raw;
     auto bytes = decoded(input);
     auto result = choose({bytes.data(), bytes.size()}, named);

@@ -75,6 +75,8 @@ std::string titleOf(const Dump& dump)
 ordered_json toJson(const Field& field, const describe::TextStyle& style)
 {
     ordered_json json{{"offset", field.offset}, {"length", field.length}};
+    if (!field.fields.empty() && !field.node.words.empty())
+        json["words"] = field.node.words;
     if (!field.fields.empty() || field.node.isList)
     {
         auto& members = json[field.node.isList ? "items" : "fields"];

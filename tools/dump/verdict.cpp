@@ -44,7 +44,8 @@ Verdict judge(const Form& form, std::string_view bytes)
 }
 
 // A reader takes some fields in one piece and checks them afterwards: such a field tells by itself what the library
-// would say to it. Else the refusal is about what was read last, or about what could not be read.
+// would say to it. Identifiers are checked at once, so what is none is the fault. Else the refusal is about what was
+// read last, or about what could not be read.
 const Span* findFault(const Span& root, const Verdict& verdict, std::string_view bytes)
 {
     std::vector<const Span*> values;
@@ -57,8 +58,8 @@ const Span* findFault(const Span& root, const Verdict& verdict, std::string_view
         if (span->offset >= verdict.consumed)
             break;
         last = span;
-        const auto refusal = span->row->refusal;
-        if (refusal != nullptr && !span->isCut() && refusal(span->contentIn(bytes)) == verdict.sentences.back())
+        const auto refusal = span->refusalIn(bytes);
+        if (!refusal.empty() && (span->row->shown == EShown::Known || refusal == verdict.sentences.back()))
             return span;
     }
     return verdict.wasShort ? values.back() : last;

@@ -3,6 +3,11 @@
 namespace dump
 {
 
+std::string Span::refusalIn(std::string_view bytes) const
+{
+    return isCut() || row->refusal == nullptr ? std::string() : row->refusal(contentIn(bytes));
+}
+
 bool Walk::add(const Row& row, std::size_t offset, std::uint64_t announced)
 {
     if (m_isOver)
@@ -21,9 +26,7 @@ bool Walk::add(const Row& row, std::size_t offset, std::uint64_t announced)
 
 void Walk::checkContent(const Span& span)
 {
-    const bool isRefused =
-        !span.isCut() && span.row->refusal != nullptr && !span.row->refusal(span.contentIn(m_bytes)).empty();
-    if (!m_doubt && (isRefused || span.announced > MostBytes))
+    if (!m_doubt && (span.announced > MostBytes || !span.refusalIn(m_bytes).empty()))
         m_doubt = span.offset;
 }
 

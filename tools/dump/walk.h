@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -34,6 +35,9 @@ struct Span
     /// Whether there are fewer bytes than the value takes.
     bool isCut() const noexcept { return announced > end - content; }
     std::string_view contentIn(std::string_view bytes) const { return bytes.substr(content, end - content); }
+
+    /// What the row says against the whole value; empty when that is nothing.
+    std::string refusalIn(std::string_view bytes) const;
 };
 
 /// Names the bytes of a form in the order in which the library reads them, by the same primitives; no value is copied.
