@@ -34,6 +34,36 @@ std::vector<std::string> names(const xmlpp::CXmlNodeRange& range)
     return result;
 }
 
+TEST(XmlNode, ListsItsAttributesWithTheirLines)
+{
+    const auto root = rootOf("<a x='1'\n y='&lt;'>text</a>");
+    const auto attributes = root.GetAttributes();
+    ASSERT_EQ(2U, attributes.size());
+    EXPECT_EQ("x", attributes[0].name);
+    EXPECT_EQ("1", attributes[0].value);
+    EXPECT_EQ(1, attributes[0].line);
+    EXPECT_EQ("y", attributes[1].name);
+    EXPECT_EQ("<", attributes[1].value);
+    EXPECT_EQ(2, attributes[1].line);
+    EXPECT_TRUE(CXmlDocument::Unserialize("<a/>").ToNode().GetAttributes().empty());
+}
+
+TEST(XmlNode, KnowsTheLineOfItsText)
+{
+    EXPECT_EQ(0, rootOf("<a> <b>text</b>\n </a>").GetTextLine());
+    EXPECT_EQ(1, rootOf("<a>text</a>").GetTextLine());
+    EXPECT_EQ(2, rootOf("<a> <b/>\n<![CDATA[text]]></a>").GetTextLine());
+}
+
+TEST(XmlNode, IsToldApartById)
+{
+    const auto root = rootOf("<a><b/><b/></a>");
+    EXPECT_EQ(root.GetId(), CXmlNode(root).GetId());
+    EXPECT_EQ(root.GetFirstChildNode("b").GetId(), root.GetFirstChildNode("b").GetId());
+    const auto children = root.GetChildNodes("b");
+    EXPECT_NE(children.begin()->GetId(), (++children.begin())->GetId());
+}
+
 TEST(XmlNode, NamesAndLines)
 {
     const CXmlDocument document = CXmlDocument::Unserialize("<a>\n  <b/>\n\n  <c/></a>");

@@ -125,4 +125,25 @@ TEST(XmlNodeWriting, CopiesReferToTheSameElement)
     EXPECT_EQ("<a x=\"1\"/>", document.Serialize());
 }
 
+TEST(XmlNodeWriting, RenamesAnElement)
+{
+    auto document = CXmlDocument::Unserialize("<a x='1'><b/></a>");
+    document.GetRootNode().SetName(std::string("other"));
+    EXPECT_EQ("<other x=\"1\"><b/></other>", document.Serialize());
+}
+
+// Look-ups begin where the last one ended, so the removed attribute must not be remembered there.
+TEST(XmlNodeWriting, RemovesAnAttributeThatWasJustRead)
+{
+    auto document = CXmlDocument::Unserialize("<a x='1' y='2' z='3'/>");
+    auto root = document.GetRootNode();
+    EXPECT_EQ("1", root.GetAttribute("x"));
+    EXPECT_TRUE(root.HasAttribute("y"));
+    root.RemoveAttribute("y");
+    EXPECT_FALSE(root.HasAttribute("y"));
+    EXPECT_EQ("3", root.GetAttribute("z"));
+    root.RemoveAttribute("missing");
+    EXPECT_EQ("<a x=\"1\" z=\"3\"/>", document.Serialize());
+}
+
 } // namespace

@@ -10,6 +10,7 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
+#include "lookups.h"
 #include "text_checks.h"
 #include "xml_printer.h"
 
@@ -142,6 +143,7 @@ tinyxml2::XMLNode* CXmlNode::findChild(CXmlName name) const
 {
     auto* child = nextElement(m_node->FirstChild(), name.c_str());
     noteLine(*m_document, (child != nullptr ? child : m_node)->GetLineNum());
+    noteLookup(ELookup::FirstChild, *this, name.c_str(), child != nullptr);
     return child;
 }
 
@@ -170,6 +172,31 @@ CXmlNode CXmlNode::GetFirstChildNode(CXmlName name) const
     throw exc::CRuntimeExc("Node [%1] is not found in [%2].", name.c_str(), GetName());
 }
 
+const void* CXmlNode::GetId() const noexcept
+{
+    return m_node;
+}
+
+int CXmlNode::GetTextLine() const
+{
+    for (const auto* child = m_node->FirstChild(); child != nullptr; child = child->NextSibling())
+    {
+        if (child->ToText() != nullptr && !util::str_trim(child->Value()).empty())
+            return child->GetLineNum();
+    }
+    return 0;
+}
+
+std::vector<SXmlAttribute> CXmlNode::GetAttributes() const
+{
+    std::vector<SXmlAttribute> attributes;
+    const auto* element = findElement();
+    const auto* at = element != nullptr ? element->FirstAttribute() : nullptr;
+    for (; at != nullptr; at = at->Next())
+        attributes.push_back({at->Name(), at->Value(), at->GetLineNum()});
+    return attributes;
+}
+
 CXmlNodeRange CXmlNode::GetChildNodes() const
 {
     return CXmlNodeRange(*this, std::nullopt);
@@ -194,6 +221,7 @@ inline const tinyxml2::XMLAttribute* CXmlNode::findAttribute(CXmlName name) cons
         return nullptr;
     const auto* attribute = lookUp(*element, name);
     noteLine(*m_document, attribute != nullptr ? attribute->GetLineNum() : element->GetLineNum());
+    noteLookup(ELookup::Attribute, *this, name.c_str(), attribute != nullptr);
     if (attribute != nullptr)
         element->SetUserData(const_cast<tinyxml2::XMLAttribute*>(attribute));
     return attribute;
@@ -269,6 +297,7 @@ datetime::CDateTime CXmlNode::GetDateTimeAttribute(CXmlName name, std::string_vi
 
 std::string CXmlNode::GetInnerText() const
 {
+    noteLookup(ELookup::Text, *this, "", true);
     std::string text;
     for (const auto* child = element().FirstChild(); child != nullptr; child = child->NextSibling())
     {
@@ -281,6 +310,18 @@ std::string CXmlNode::GetInnerText() const
 void CXmlNode::setAttributeText(CXmlName name, const char* value)
 {
     element().SetAttribute(name.c_str(), value);
+}
+
+void CXmlNode::SetName(CXmlName name)
+{
+    element().SetName(name.c_str());
+}
+
+void CXmlNode::RemoveAttribute(CXmlName name)
+{
+    auto& owner = element();
+    owner.DeleteAttribute(name.c_str());
+    owner.SetUserData(nullptr);
 }
 
 void CXmlNode::SetAttribute(CXmlName name, const std::string& value)
@@ -363,6 +404,7 @@ CXmlNodeRange::CXmlNodeRange(CXmlNode parent, std::optional<std::string> name)
 CXmlNodeRange::iterator CXmlNodeRange::begin() const
 {
     const char* name = m_name ? m_name->c_str() : nullptr;
+    noteLookup(m_name ? ELookup::NamedChildren : ELookup::AllChildren, m_parent, m_name ? name : "", true);
     return iterator(m_parent, nextElement(m_parent.m_node->FirstChild(), name), name);
 }
 
@@ -386,8 +428,10 @@ CXmlNodeRange::iterator& CXmlNodeRange::iterator::operator++()
 void CXmlNodeRange::iterator::moveTo(tinyxml2::XMLNode* at)
 {
     m_current.m_node = at;
-    if (at != nullptr)
-        noteLine(*m_current.m_document, at->GetLineNum());
+    if (at == nullptr)
+        return;
+    noteLine(*m_current.m_document, at->GetLineNum());
+    noteLookup(ELookup::Visit, m_current, at->Value(), true);
 }
 
 bool CXmlNodeRange::iterator::operator!=(const iterator& other) const noexcept

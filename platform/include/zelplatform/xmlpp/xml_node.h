@@ -32,6 +32,14 @@ enum class EInt64Form
     UnsignedWrapped, ///< also 2^63 .. 2^64-1, taken as two's complement
 };
 
+/// An attribute as it stands.
+struct SXmlAttribute
+{
+    std::string_view name;
+    std::string_view value;
+    int line; ///< the line of the text at which it starts; 0 for one that was built in memory
+};
+
 /// A handle to an element, or to a document itself, whose children are the top-level elements. The handle shares
 /// ownership of the document, so it cannot dangle; copies refer to the same node, and const is of the handle.
 /// Getters throw exc::CRuntimeExc for what is missing or malformed; texts they give point into the document and live
@@ -51,6 +59,15 @@ public:
 
     /// The line of the text at which the node starts; 0 for one that was built in memory.
     int GetLine() const;
+
+    /// Tells nodes apart: the same for every handle to one node.
+    const void* GetId() const noexcept;
+
+    /// The line of the first text in the element that is not blank; 0 when there is none.
+    int GetTextLine() const;
+
+    /// The attributes in document order; none for a document.
+    std::vector<SXmlAttribute> GetAttributes() const;
 
     /// True when there is a child element of the name; an attribute of the name does not count.
     bool HasNode(CXmlName name) const;
@@ -94,6 +111,12 @@ public:
 
     /// All direct text and CDATA of the element, joined and trimmed.
     std::string GetInnerText() const;
+
+    /// Gives the element another name.
+    void SetName(CXmlName name);
+
+    /// Removes the attribute, if it is there.
+    void RemoveAttribute(CXmlName name);
 
     /// Sets an attribute: a new one goes to the end. Values with a character that XML cannot carry (a control character
     /// other than tab, CR and LF) are refused with a message that does not quote them. A document takes no attribute.
