@@ -36,13 +36,14 @@ TEST(DeletePointTree, HoldsEveryFieldWithItsLine)
                "<IncrementPointIds>\n" +
                point(Second) + "\n<other/><Guid>\n" + First + "</Guid></IncrementPointIds></DeletePointTransformSpec>");
     EXPECT_EQ(namesOf(root), (std::vector<std::string>{"sessionId", "backupId", "operationType", "transformType",
-                                                       "integrityCheckEnabled", "pointIds"}));
+                                                       "integrityCheckEnabled", "pointIds", "ignored"}));
     expectFields(root, {{"sessionId", Session, Session, 2},
                         {"backupId", Backup, Backup, 3},
                         {"operationType", "0", "delete restore points", 4},
                         {"transformType", "5", "number 5", 5},
                         {"integrityCheckEnabled", "false", "off", 6},
-                        {"pointIds", "", "2 restore points, in this order", 7}});
+                        {"pointIds", "", "2 restore points, in this order", 7},
+                        {"ignored/part", "other", "element other of IncrementPointIds", 9}});
     const auto& points = at(root, "pointIds").children;
     ASSERT_EQ(points.size(), 2U);
     EXPECT_EQ(points[0].value, Second);

@@ -45,6 +45,7 @@ bool isOneOf(EDocumentKind kind, EDocumentKind a, EDocumentKind b)
 void pointAtRuleOfWholeRecord(const xmlpp::CXmlNode& top)
 {
     using model::SBackupJobOptions;
+    const xmlpp::CLookupPause pause;
     try
     {
         SBackupJobOptions job(model::KbBlockSize::KbBlockSize1024);
@@ -79,11 +80,12 @@ Node describeJobOptions(const Source& source, bool isServerForm)
 {
     const auto* root = isServerForm ? job_names::JobOptionsRoot : job_names::JobOptions;
     const auto top = source.top();
-    return visitJobOptions(readJobOptions(top), source.placeOf(top.GetFirstChildNode(root)), isServerForm);
+    return visitJobOptions(readJobOptions(top), source.topPlace().child(root), isServerForm);
 }
 
 bool usesShortNames(const xmlpp::CXmlNode& policy)
 {
+    const xmlpp::CLookupPause pause;
     return !policy.HasNode(gfs::SGfsWeeklyPolicyInfoTraits::LongElement) &&
            !policy.HasNode(gfs::SMonthlyGfsPolicyInfoTraits::LongElement) &&
            !policy.HasNode(gfs::SYearlyGfsPolicyInfoTraits::LongElement);
@@ -99,14 +101,14 @@ Node describeLimitations(const Source& source)
 {
     const auto parent = source.parentOf(repository_names::JobSettings);
     return visitRepositoryLimitations(structs::CRepositoryLimitationsSpec::FromXmlNode(parent),
-                                      source.placeOf(parent.GetFirstChildNode(repository_names::JobSettings)));
+                                      source.placeOf(parent).child(repository_names::JobSettings));
 }
 
 Node describeImmutability(const Source& source)
 {
     const auto parent = source.parentOf(storage_names::ImmutabilitySettings);
     return visitImmutability(structs::SObjectStorageImmutabilitySettings::FromXml(parent),
-                             source.placeOf(parent.GetFirstChildNode(storage_names::ImmutabilitySettings)));
+                             source.placeOf(parent).child(storage_names::ImmutabilitySettings));
 }
 
 Node describeDirectImmutability(const Source& source)
@@ -132,10 +134,41 @@ Document::Document(const std::string& text) : m_xml(xmlpp::CXmlDocument::Unseria
 
 EDocumentKind Document::kind() const
 {
+    const xmlpp::CLookupPause pause;
     return kindOf(m_xml);
 }
 
 Node Document::describe() const
+{
+    const xmlpp::CLookupRecord record;
+    auto tree = describeFields();
+    const auto ignored = listIgnored(record);
+    if (!ignored.empty())
+        tree.children.push_back(describeIgnored(ignored));
+    return tree;
+}
+
+std::vector<IgnoredPart> Document::listIgnored(const xmlpp::CLookupRecord& record) const
+{
+    return findIgnored(enclosedElement().value_or(m_xml.ToNode()), record.GetLookups());
+}
+
+// The settings that other documents enclose: what stands around them is not for their reader.
+std::optional<xmlpp::CXmlNode> Document::enclosedElement() const
+{
+    const xmlpp::CLookupPause pause;
+    const Source source(m_xml);
+    const auto enclosed = [&](const char* element) { return source.parentOf(element).FindChildNode(element); };
+    switch (kind())
+    {
+    case EDocumentKind::RepositoryLimitations: return enclosed(repository_names::JobSettings);
+    case EDocumentKind::Immutability: return enclosed(storage_names::ImmutabilitySettings);
+    case EDocumentKind::DirectImmutability: return enclosed(storage_names::DirectBackupImmutabilitySettings);
+    default: return std::nullopt;
+    }
+}
+
+Node Document::describeFields() const
 {
     const auto found = kind();
     const Source source(m_xml);

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/schedule_options.h>
+#include <zelplatform/xmlpp/lookup_record.h>
 #include <zelplatform/xmlpp/xml_document.h>
 
 #include "document_kind.h"
+#include "ignored.h"
 #include "node.h"
 
 namespace describe
@@ -24,9 +28,15 @@ public:
     /// See kindOf.
     EDocumentKind kind() const;
 
-    /// Everything that the document holds, as a tree. Throws what the library's reader of the kind throws, the pointer
-    /// of an unknown window kind included.
+    /// Everything that the document holds, as a tree, and last what its reader ignores, when there is any. Throws what
+    /// the library's reader of the kind throws, the pointer of an unknown window kind included.
     Node describe() const;
+
+    /// The same without what the reader ignores. A record that lives meanwhile holds what the reader asked for.
+    Node describeFields() const;
+
+    /// What the reader ignores, by the questions that describeFields recorded.
+    std::vector<IgnoredPart> listIgnored(const xmlpp::CLookupRecord& record) const;
 
     /// The schedule of job options or of a schedule; other kinds are refused.
     zelplatform::model::structs::CScheduleOptions readSchedule() const;
@@ -38,6 +48,8 @@ public:
     int lastReadLine() const { return m_xml.LastReadLine(); }
 
 private:
+    std::optional<xmlpp::CXmlNode> enclosedElement() const;
+
     xmlpp::CXmlDocument m_xml;
 };
 

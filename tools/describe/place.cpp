@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <zelplatform/xmlpp/lookup_record.h>
+
 namespace describe
 {
 namespace
@@ -31,6 +33,7 @@ Origin Place::origin() const
 
 bool Place::has(xmlpp::CXmlName attribute) const
 {
+    const xmlpp::CLookupPause pause;
     return m_node && m_node->HasAttribute(attribute);
 }
 
@@ -57,16 +60,19 @@ Origin Place::originOfFilled(xmlpp::CXmlName attribute) const
 
 std::string Place::textOf(xmlpp::CXmlName attribute) const
 {
+    const xmlpp::CLookupPause pause;
     return has(attribute) ? std::string(m_node->GetAttribute(attribute)) : std::string();
 }
 
 Place Place::child(xmlpp::CXmlName name) const
 {
+    const xmlpp::CLookupPause pause;
     return Place(m_document, m_node ? m_node->FindChildNode(name) : std::nullopt, name.c_str());
 }
 
 std::vector<Place> Place::children(xmlpp::CXmlName name) const
 {
+    const xmlpp::CLookupPause pause;
     std::vector<Place> places;
     if (!m_node)
         return places;

@@ -13,7 +13,8 @@
 namespace describe
 {
 
-/// An element of a document, or one that is missing there: says where its parts stand.
+/// An element of a document, or one that is missing there: says where its parts stand. Its look-ups are its
+/// own: a record of what the reader asks for does not hold them.
 class Place
 {
 public:
