@@ -6,6 +6,7 @@
 /// session, so that whoever catches a refusal can say in which file and on which line.
 
 void addCalendar(Dispatcher& commands);
+void addCheck(Dispatcher& commands);
 void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
 void addDump(Dispatcher& commands);

@@ -20,7 +20,7 @@ constexpr std::size_t LongestUsageError = 400;
 void addCommands(Dispatcher& commands)
 {
     addCalendar(commands);
-    addCommands(commands);
+    addCheck(commands);
     addConvert(commands);
     addDiff(commands);
     addDump(commands);
@@ -77,6 +77,7 @@ int run(int argc, char** argv)
     app.set_version_flag("--version", Version);
     app.require_subcommand(1);
     Dispatcher commands(app);
+    addCommands(commands);
     try
     {
         app.parse(argc, argv);

@@ -1,0 +1,119 @@
+#include "check.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "repair.h"
+#include "rules.h"
+#include "subject.h"
+
+namespace check
+{
+namespace
+{
+
+using xmlpp::ELookup;
+using zelplatform::model::structs::BackupWindow;
+
+constexpr int MostFaults = 64;
+
+const char* ruleOf(const Fault& fault)
+{
+    if (fault.isFound)
+        return rule_id::RefusedValue;
+    return fault.kind == ELookup::Attribute ? rule_id::MissingAttribute : rule_id::MissingElement;
+}
+
+// The library's last sentence names what is missing, but not whose value it refuses.
+std::string tellFault(const Fault& fault, const std::string& sentence)
+{
+    if (!fault.isFound)
+        return sentence;
+    if (fault.kind == ELookup::Attribute)
+        return fault.name + " of " + fault.owner + ": " + sentence;
+    return fault.owner + ": " + sentence;
+}
+
+// "Unable to parse XML at line 3: [...]."
+int lineOfMalformed(const std::string& sentence)
+{
+    const std::string before = "at line ";
+    const auto at = sentence.find(before);
+    return at == std::string::npos ? 0 : std::atoi(sentence.c_str() + at + before.size());
+}
+
+/// Checks one document.
+class Check
+{
+public:
+    Check(const BackupWindow* window, Findings& findings) : m_window(window), m_findings(findings) {}
+
+    void checkText(const std::string& text)
+    {
+        std::vector<std::string> sentences;
+        const auto document = parseDocument(text, sentences);
+        if (document)
+            checkDocument(*document);
+        else
+            stop(rule_id::MalformedDocument, lineOfMalformed(sentences.back()), sentences);
+    }
+
+private:
+    void checkDocument(const describe::Document& document)
+    {
+        const auto reading = readAll(document);
+        if (!reading.tree)
+            return;
+        const Subject subject{document, reading, m_window, m_repaired};
+        checkNames(subject, m_findings);
+    }
+
+    // The first reading that is accepted, or the last one that is refused.
+    Attempt readAll(const describe::Document& document)
+    {
+        Repair repair(document);
+        auto attempt = readDocument(document);
+        for (int faults = 0; !attempt.tree; ++faults)
+        {
+            const auto fault = faults < MostFaults ? repair.repair(attempt) : std::nullopt;
+            if (!fault)
+            {
+                const bool isUnknown = attempt.lookups.empty();
+                stop(isUnknown ? rule_id::UnknownDocument : rule_id::RefusedValue, attempt.line, attempt.sentences);
+                break;
+            }
+            take(*fault, attempt);
+            attempt = readDocument(document);
+        }
+        return attempt;
+    }
+
+    void take(const Fault& fault, const Attempt& attempt)
+    {
+        m_repaired.insert({fault.line, fault.name});
+        // What is missing in an element that was missing itself is no fault of its own.
+        if (fault.line != 0)
+            m_findings.add(ruleOf(fault), fault.line, tellFault(fault, attempt.sentences.back()), attempt.sentences);
+    }
+
+    void stop(const char* rule, int line, const std::vector<std::string>& sentences)
+    {
+        m_findings.add(rule, line, sentences.back(), sentences);
+        m_findings.add(rule_id::RestNotChecked, line, "what stands behind this place was not checked");
+    }
+
+    const BackupWindow* m_window;
+    Findings& m_findings;
+    std::set<std::pair<int, std::string>> m_repaired;
+};
+
+} // namespace
+
+std::vector<Finding> checkText(const std::string& text, const BackupWindow* window)
+{
+    Findings findings;
+    Check(window, findings).checkText(text);
+    return std::move(findings).sorted();
+}
+
+} // namespace check

@@ -1,0 +1,140 @@
+#include "repair.h"
+
+#include <algorithm>
+
+#include "accepted_values.h"
+
+namespace check
+{
+namespace
+{
+
+using xmlpp::CXmlNode;
+using xmlpp::ELookup;
+using xmlpp::SLookup;
+
+/// The most questions of readers that the repairs of one document may take: a second or so.
+constexpr std::size_t MostQuestions = 4UL * 1000 * 1000;
+
+/// How far a fault may lie before the last question: rules of whole records are looked at after their last part.
+constexpr std::size_t FarthestFault = 256;
+
+bool isSameQuestion(const SLookup& a, const SLookup& b)
+{
+    return a.kind == b.kind && a.node.GetId() == b.node.GetId() && (a.kind == ELookup::Visit || a.name == b.name);
+}
+
+int lineOf(const SLookup& lookup)
+{
+    const xmlpp::CLookupPause pause;
+    const int line = lookup.node.GetLine();
+    if (lookup.kind != ELookup::Attribute || line == 0)
+        return line;
+    for (const auto& attribute : lookup.node.GetAttributes())
+    {
+        if (attribute.name == lookup.name)
+            return attribute.line != 0 ? attribute.line : line;
+    }
+    return line;
+}
+
+} // namespace
+
+// The reader must go the same way as before, and come further.
+bool Repair::passes(const Attempt& refused)
+{
+    const auto attempt = readDocument(m_document);
+    m_questions += attempt.lookups.size() + 1;
+    const auto& before = refused.lookups;
+    const auto& after = attempt.lookups;
+    const bool isFurther = attempt.tree || after.size() > before.size();
+    return isFurther && after.size() >= before.size() &&
+           std::equal(before.begin(), before.end(), after.begin(), isSameQuestion);
+}
+
+bool Repair::tryAttribute(CXmlNode node, const SLookup& lookup, const Attempt& refused, bool isLast)
+{
+    if (!lookup.isFound && !isLast)
+        return false;
+    const std::string before(lookup.isFound ? node.GetAttribute(lookup.name) : "");
+    for (const auto& value : valuesToTry(lookup.name, before))
+    {
+        if (!value && !(isLast && lookup.isFound))
+            continue;
+        if (value)
+            node.SetAttribute(lookup.name, *value);
+        else
+            node.RemoveAttribute(lookup.name);
+        if (passes(refused))
+            return true;
+    }
+    if (lookup.isFound)
+        node.SetAttribute(lookup.name, before);
+    else
+        node.RemoveAttribute(lookup.name);
+    return false;
+}
+
+bool Repair::tryText(CXmlNode node, const Attempt& refused)
+{
+    const auto before = node.GetInnerText();
+    for (const auto& value : valuesToTry(node.GetName(), before))
+    {
+        if (!value)
+            continue;
+        node.SetInnerText(*value);
+        if (passes(refused))
+            return true;
+    }
+    node.SetInnerText(before);
+    return false;
+}
+
+bool Repair::tryName(CXmlNode node, const Attempt& refused)
+{
+    const auto before = node.GetName();
+    for (const auto& name : namesToTry(before))
+    {
+        node.SetName(name);
+        if (passes(refused))
+            return true;
+    }
+    node.SetName(before);
+    return false;
+}
+
+bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
+{
+    auto node = lookup.node;
+    switch (lookup.kind)
+    {
+    case ELookup::Attribute: return tryAttribute(node, lookup, refused, isLast);
+    case ELookup::Text: return tryText(node, refused);
+    case ELookup::Visit: return isLast && tryName(node, refused);
+    case ELookup::FirstChild: break;
+    case ELookup::NamedChildren:
+    case ELookup::AllChildren: return false;
+    }
+    if (!isLast || lookup.isFound)
+        return false;
+    node.AddNode(lookup.name);
+    return passes(refused);
+}
+
+std::optional<Fault> Repair::repair(const Attempt& refused)
+{
+    const auto& lookups = refused.lookups;
+    const auto last = lookups.size();
+    const auto first = last > FarthestFault ? last - FarthestFault : 0;
+    for (auto i = last; i > first && m_questions < MostQuestions; --i)
+    {
+        const auto& lookup = lookups[i - 1];
+        const int line = lineOf(lookup);
+        const auto owner = lookup.node.GetName();
+        if (tryPart(lookup, refused, i == last))
+            return Fault{lookup.kind, lookup.name, owner, line, lookup.isFound};
+    }
+    return std::nullopt;
+}
+
+} // namespace check

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include <zelplatform/xmlpp/lookup_record.h>
+
+#include "attempt.h"
+#include "describe/document.h"
+
+namespace check
+{
+
+/// Where the fault of a refusal lies.
+struct Fault
+{
+    xmlpp::ELookup kind;
+    std::string name;
+    std::string owner;
+    int line; ///< 0 when the element is not the document's own: it was added by an earlier repair
+    bool isFound;
+};
+
+/// Repairs a document in memory so that its reader comes further, fault by fault. The text behind it stays as it is.
+class Repair
+{
+public:
+    explicit Repair(const describe::Document& document) : m_document(document) {}
+
+    /// Finds the fault behind a refusal by trying: the part that was asked for last, then those before it. Nothing when
+    /// no change to any of them lets the reader pass, or when too much was tried already; the document is unchanged
+    /// then.
+    std::optional<Fault> repair(const Attempt& refused);
+
+private:
+    bool tryPart(const xmlpp::SLookup& lookup, const Attempt& refused, bool isLast);
+    bool tryAttribute(xmlpp::CXmlNode node, const xmlpp::SLookup& lookup, const Attempt& refused, bool isLast);
+    bool tryText(xmlpp::CXmlNode node, const Attempt& refused);
+    bool tryName(xmlpp::CXmlNode node, const Attempt& refused);
+    bool passes(const Attempt& refused);
+
+    const describe::Document& m_document;
+    std::size_t m_questions = 0; ///< that the readers have asked so far
+};
+
+} // namespace check
