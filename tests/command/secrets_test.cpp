@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -157,6 +158,38 @@ TEST_P(Secrets, StandInNoRefusalOfNext)
     const auto noWindow = runCommand({"next", "continuous.xml", "--window", "-"}, text);
     EXPECT_EQ(noWindow.exitCode, 3);
     EXPECT_EQ(noWindow.messages.find(Canary), std::string::npos) << noWindow.messages;
+}
+
+/// Every secret differs, and the report of a conversion and the difference name the fields only.
+TEST_P(Secrets, StandInNoDifference)
+{
+    auto text = textOf(GetParam().pieces);
+    const auto path = testing::TempDir() + "zelmodel-secrets-" + GetParam().name + ".xml";
+    std::ofstream(path) << text;
+    for (auto at = text.find(Canary); at != std::string::npos; at = text.find(Canary, at + 1))
+        text.insert(at + std::string(Canary).size(), "-another");
+    for (const auto* option : {"--no-color", "--json"})
+    {
+        const auto result = runCommand({"diff", path, "-", option}, text);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(countOfHidden(result.output), 2 * GetParam().hidden) << result.output;
+        EXPECT_EQ(result.output.find(Canary), std::string::npos) << result.output;
+    }
+    std::filesystem::remove(path);
+}
+
+/// The converted document holds them, as it must; nothing else does.
+TEST_P(Secrets, StandInNoReportOfAConversion)
+{
+    for (const auto& text : variantsOf(GetParam().pieces))
+    {
+        const auto result = runCommand({"convert", "-"}, text);
+        EXPECT_EQ(result.messages.find(Canary), std::string::npos) << result.messages;
+        EXPECT_EQ(result.exitCode == 0, !result.output.empty());
+    }
+    const auto json = runCommand({"convert", "-", "--json"}, textOf(GetParam().pieces));
+    EXPECT_EQ(json.exitCode, 0);
+    EXPECT_EQ(json.output.find(Canary), std::string::npos) << json.output;
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, Secrets,

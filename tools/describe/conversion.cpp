@@ -16,10 +16,21 @@ namespace
 
 using Places = std::set<std::pair<std::string, int>>;
 
-void collectPlaces(const Node& node, Places& places)
+/// Where the fields of a tree were read.
+struct ReadPlaces
 {
+    Places all;
+    Places ofFields; ///< without those of groups
+};
+
+void collectPlaces(const Node& node, ReadPlaces& places)
+{
+    if (isWorkedOut(node))
+        return;
     if (node.origin.isThere())
-        places.emplace(node.origin.name, node.origin.line);
+        places.all.emplace(node.origin.name, node.origin.line);
+    if (node.origin.isThere() && node.children.empty())
+        places.ofFields.emplace(node.origin.name, node.origin.line);
     for (const auto& child : node.children)
         collectPlaces(child, places);
 }
@@ -28,8 +39,8 @@ void collectPlaces(const std::vector<Difference>& differences, Places& places)
 {
     for (const auto& difference : differences)
     {
-        if (difference.first.children.empty())
-            collectPlaces(difference.first, places);
+        if (difference.first.children.empty() && difference.first.origin.isThere())
+            places.emplace(difference.first.origin.name, difference.first.origin.line);
         collectPlaces(difference.details, places);
     }
 }
@@ -118,10 +129,10 @@ void dropTold(const Places& told, std::vector<MarkupPart>& parts)
 
 MarkupDiff compareMarkupOf(const std::string& text, const Node& tree, const Conversion& conversion)
 {
-    Places read;
+    ReadPlaces read;
     collectPlaces(tree, read);
-    auto markup = compareMarkup(text, conversion.text, [&](const std::string& name, int line) {
-        return read.count({name, line}) != 0;
+    auto markup = compareMarkup(text, conversion.text, [&](EMarkup kind, const std::string& name, int line) {
+        return (kind == EMarkup::Text ? read.ofFields : read.all).count({name, line}) != 0;
     });
     Places told;
     collectPlaces(conversion.differences, told);
@@ -131,12 +142,6 @@ MarkupDiff compareMarkupOf(const std::string& text, const Node& tree, const Conv
 }
 
 } // namespace
-
-bool Conversion::losesParts() const noexcept
-{
-    return !differences.empty() || !markup.lost.empty() || markup.comments + markup.instructions > 0 ||
-           markup.enclosing.line != 0;
-}
 
 Conversion convert(const std::string& text, EDocumentKind kind, const Node& tree)
 {

@@ -31,9 +31,6 @@ struct Conversion
     std::vector<RenamedField> renamedFields;
     MarkupDiff markup;               ///< without what the differences tell
     std::size_t writtenDefaults = 0; ///< fields that the document left to their defaults
-
-    /// True when something that the document held is gone, comments included.
-    bool losesParts() const noexcept;
 };
 
 /// Converts the text of a document that was read; kind and tree are its own. The result is read again before it is

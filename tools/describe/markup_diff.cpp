@@ -117,7 +117,10 @@ private:
     void compareTexts(const XMLElement& element, const XMLElement* written);
     void countOther(const XMLNode& parent);
 
-    bool isRead(const XMLElement& element) const { return m_isRead(element.Name(), element.GetLineNum()); }
+    bool isRead(const XMLElement& element) const
+    {
+        return m_isRead(EMarkup::Element, element.Name(), element.GetLineNum());
+    }
 
     const IsRead& m_isRead;
 };
@@ -138,7 +141,7 @@ void Walk::compareAttributes(const XMLElement& element, const XMLElement* writte
     {
         const MarkupPart part{EMarkup::Attribute, attribute->Name(), element.Name(), attribute->GetLineNum()};
         const auto* value = written == nullptr ? nullptr : findValue(element, *written, attribute->Name());
-        if (value == nullptr && !m_isRead(part.name, part.line))
+        if (value == nullptr && !m_isRead(part.kind, part.name, part.line))
             diff.lost.push_back(part);
         else if (value != nullptr && std::string_view(value) != attribute->Value())
             diff.respelled.push_back(part);
@@ -154,7 +157,7 @@ void Walk::compareTexts(const XMLElement& element, const XMLElement* written)
     const MarkupPart part{EMarkup::Text, {}, element.Name(), element.GetLineNum()};
     if (!writtenText.empty())
         diff.respelled.push_back(part);
-    else if (!isRead(element))
+    else if (!m_isRead(part.kind, part.owner, part.line))
         diff.lost.push_back(part);
 }
 

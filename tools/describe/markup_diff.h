@@ -36,8 +36,8 @@ struct MarkupDiff
     MarkupPart enclosing;
 };
 
-/// Whether a field was read from the attribute or element of this name on this line.
-using IsRead = std::function<bool(const std::string& name, int line)>;
+/// Whether a field was read from the attribute or element of this name on this line, or from the element's text.
+using IsRead = std::function<bool(EMarkup kind, const std::string& name, int line)>;
 
 /// Compares the markup of two documents that were read before. An element or attribute stands for the one of the same
 /// way and name, of several elements for the one of the same number; what the reader took from elsewhere is no loss.

@@ -27,12 +27,6 @@ struct Path
     }
 };
 
-// The document does not hold it, and nobody may ask where it does.
-bool isWorkedOut(const Node& node)
-{
-    return (node.children.empty() || node.isList) && node.origin.kind == EOrigin::None;
-}
-
 bool isGroup(const Node& node)
 {
     return node.isList || !node.children.empty();
@@ -181,6 +175,11 @@ void Comparison::compare(const Node& a, const Node& b, const Path& path, std::ve
 }
 
 } // namespace
+
+bool isWorkedOut(const Node& node)
+{
+    return (node.children.empty() || node.isList) && node.origin.kind == EOrigin::None;
+}
 
 TreeDiff compareTrees(const Node& first, const Node& second)
 {

@@ -43,6 +43,9 @@ struct TreeDiff
     bool isSame() const noexcept { return differences.empty(); }
 };
 
+/// Whether the field stands nowhere in the document: it was worked out from others, or lists what was not read.
+bool isWorkedOut(const Node& node);
+
 /// Compares two trees of one kind of record field by field. Fields are found by their names, items of lists by what
 /// they hold (see alignLists); what counts is the value, so that neither the layout nor the spelling plays a part.
 /// What was worked out from other fields is left out. Secrets are compared and stay secrets.

@@ -77,7 +77,7 @@ Conversion readAndConvert(const Arguments& arguments, std::string& text, Session
 {
     session.reading = Reading{arguments.file, std::nullopt};
     text = readInput(arguments.file);
-    const auto& document = session.reading.document.emplace(text);
+    const auto& document = parseDocument(arguments.file, text, session.reading);
     const auto kind = document.kind();
     const auto tree = document.describe();
     // What is refused from here on stands on no line.

@@ -14,17 +14,26 @@ struct Arguments
     std::string second;
 };
 
-describe::DocumentSide readSide(const std::string& name, Session& session)
+std::string readText(const std::string& name, Session& session)
 {
-    const auto& document = openDocument(name, session.reading);
+    session.reading = Reading{name, std::nullopt};
+    return readInput(name);
+}
+
+describe::DocumentSide describeSide(const std::string& name, const std::string& text, Session& session)
+{
+    const auto& document = parseDocument(name, text, session.reading);
     const auto kind = document.kind();
     return {shownName(name), kind, document.describe()};
 }
 
 int diff(const Arguments& arguments, Session& session)
 {
-    const auto first = readSide(arguments.first, session);
-    const auto second = readSide(arguments.second, session);
+    // A file that cannot be read is worse than one that is refused.
+    const auto firstText = readText(arguments.first, session);
+    const auto secondText = readText(arguments.second, session);
+    const auto first = describeSide(arguments.first, firstText, session);
+    const auto second = describeSide(arguments.second, secondText, session);
     const auto diff = describe::compareDocuments(first, second);
     const auto& style = session.output.style();
     if (session.output.isJson())

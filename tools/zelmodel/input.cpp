@@ -44,9 +44,14 @@ crypto::sec_buffer_t readSecret(const std::string& name, std::size_t mostBytes)
     return readAll<crypto::sec_buffer_t>(name, mostBytes);
 }
 
+const describe::Document& parseDocument(const std::string& name, const std::string& text, Reading& reading)
+{
+    reading = Reading{name, std::nullopt};
+    return reading.document.emplace(text);
+}
+
 const describe::Document& openDocument(const std::string& name, Reading& reading)
 {
-    reading.name = name;
-    reading.document.reset();
-    return reading.document.emplace(readInput(name));
+    reading = Reading{name, std::nullopt};
+    return parseDocument(name, readInput(name), reading);
 }

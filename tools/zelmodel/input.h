@@ -30,5 +30,8 @@ std::string readInput(const std::string& name);
 /// The same of an input that may hold keys, into secure memory; at most so many bytes.
 crypto::sec_buffer_t readSecret(const std::string& name, std::size_t mostBytes);
 
+/// Parses a text that was read from the input; the reading tells of it until the next one.
+const describe::Document& parseDocument(const std::string& name, const std::string& text, Reading& reading);
+
 /// Reads and parses the input; the reading tells of it until the next one.
 const describe::Document& openDocument(const std::string& name, Reading& reading);
