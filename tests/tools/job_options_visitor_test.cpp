@@ -201,4 +201,27 @@ TEST(JobOptionsTree, TellsIndexingOfTheElement)
     EXPECT_EQ(at(job, "indexing/folders").origin.line, 4);
 }
 
+TEST(JobOptionsTree, MarksWhatTheServersFormCannotCarry)
+{
+    const auto job = treeOf("<JobOptionsRoot><RetainCycles>3</RetainCycles></JobOptionsRoot>");
+    for (const auto* path : {"snapshotMode", "retryTimeoutMs", "indexing/type", "gfsPolicy", "productSpecific",
+                             "schedule", "schedule/jobStart/time"})
+        EXPECT_TRUE(at(job, path).isNotCarried) << path;
+    for (const auto* path : {"compression", "maxPoints", "maxDays", "deletedVmDataRetentionDays", "dedupEnabled"})
+        EXPECT_FALSE(at(job, path).isNotCarried) << path;
+    EXPECT_FALSE(at(treeOf("<JobOptions/>"), "snapshotMode").isNotCarried);
+}
+
+/// Whether the number counts is what the flag says.
+TEST(JobOptionsTree, TellsWhatDecidedAboutDeletedDataInTheServersForm)
+{
+    const auto lineOf = [](const std::string& flag) {
+        const auto job = treeOf("<JobOptionsRoot>\n" + flag + "\n<RetainDays>30</RetainDays></JobOptionsRoot>");
+        return at(job, "deletedVmDataRetentionDays").origin.line;
+    };
+    EXPECT_EQ(lineOf("<EnableDeletedVmDataRetention>true</EnableDeletedVmDataRetention>"), 3);
+    EXPECT_EQ(lineOf("<EnableDeletedVmDataRetention>false</EnableDeletedVmDataRetention>"), 2);
+    EXPECT_EQ(lineOf(""), 0);
+}
+
 } // namespace

@@ -166,4 +166,14 @@ TEST(ScheduleTree, PartsWithoutARootAreRead)
     EXPECT_EQ(at(root, "syntheticFull").words, "Every 1 day of every month");
 }
 
+/// Before calendars had a type, the time said that it is a period.
+TEST(ScheduleTree, TypeMayStandOnTheTime)
+{
+    const auto root = treeOf(std::string("<Schedule Version='3' IsEnabled='1' WeekDayNumber='Every' DayOfMonth='0'>") +
+                             AllDays + AllMonths + "\n<Time Type='1' Hours='6' Minutes='30'/></Schedule>");
+    EXPECT_EQ(at(root, "jobStart/scheduleType").words, "periodically");
+    EXPECT_EQ(at(root, "jobStart/scheduleType").origin.kind, describe::EOrigin::Older);
+    EXPECT_EQ(at(root, "jobStart/scheduleType").origin.line, 2);
+}
+
 } // namespace
