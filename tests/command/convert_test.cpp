@@ -303,6 +303,24 @@ TEST(ConvertJson, HidesADocumentWithSecrets)
     EXPECT_NE(shown.output.find("not-a-real-password"), std::string::npos) << shown.output;
 }
 
+/// A window of an unknown kind among them, which the library throws in its own way.
+TEST(ConvertFailures, EachRefusedExampleIsRefusedAsByShow)
+{
+    for (const auto& entry : std::filesystem::directory_iterator(std::string(ZELMODEL_EXAMPLES_DIR) + "/refused"))
+    {
+        const auto path = entry.path().string();
+        const auto messages = runCommand({"show", path}).messages;
+        for (const auto& arguments :
+             {std::vector<std::string>{"convert", path}, std::vector<std::string>{"diff", path, "continuous.xml"}})
+        {
+            const auto result = runCommand(arguments);
+            EXPECT_EQ(result.exitCode, 3) << path;
+            EXPECT_EQ(result.output, "") << path;
+            EXPECT_EQ(result.messages, messages) << path;
+        }
+    }
+}
+
 TEST(ConvertFailures, AreToldLikeThoseOfShow)
 {
     const auto refused = runCommand({"convert", "refused/unknown-compression.xml"});
@@ -314,6 +332,7 @@ TEST(ConvertFailures, AreToldLikeThoseOfShow)
     EXPECT_EQ(record.messages, "task-log-record.xml: refused\n"
                                "  The document is a task log record, which is read and never written.\n");
     EXPECT_EQ(runCommand({"convert", "missing.xml"}).exitCode, 4);
+    EXPECT_EQ(runCommand({"convert", "continuous.xml", "-o", ""}).exitCode, 4);
     EXPECT_EQ(runCommand({"convert", "-", "--in-place"}).exitCode, 2);
     EXPECT_EQ(runCommand({"convert", "continuous.xml", "--in-place", "-o", "x.xml"}).exitCode, 2);
     EXPECT_EQ(runCommand({"convert"}).exitCode, 2);

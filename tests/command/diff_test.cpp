@@ -147,6 +147,27 @@ TEST(DiffText, LayoutAndOrderPlayNoPart)
     EXPECT_EQ(other.output, "Object storage mode: number 3 -> number 2 (line 2 -> line 3)\n");
 }
 
+TEST(DiffText, AliasesAndVariantsOfNamesPlayNoPart)
+{
+    const auto expectSame = [](const std::string& first, const std::string& second) {
+        const auto path = testing::TempDir() + "zelmodel-diff-names.xml";
+        std::ofstream(path) << first;
+        const auto result = runCommand({"diff", path, "-"}, second);
+        std::filesystem::remove(path);
+        EXPECT_EQ(result.exitCode, 0) << first << result.output << result.messages;
+        EXPECT_EQ(result.output, "") << first;
+    };
+    expectSame("<GfsPolicy IsEnabled='1'><Weekly IsEnabled='true' KeepBackupsForNumberOfWeeks='4' "
+               "BeginTimeUtc='01/01/0001 00:00:00' DesiredTime='5'/></GfsPolicy>",
+               "<GfsPolicy IsEnabled='TRUE'><GfsWeeklyPolicy IsEnabled='1' NumberOfWeeks='04' "
+               "BeginTimeUtc='01/01/1970 00:00:00' DesiredTime='5'/></GfsPolicy>");
+    expectSame("<JobOptions Compression='ZlibHigh' BlockSize='Default' IsSnapshotRequired='true' IndexOnly='/etc'/>",
+               "<JobOptions Compression='Zstd9' BlockSize='KbBlockSize1024' SnapshotMode='NoSnapshot'>"
+               "<Indexing Type='IndexOnly' Folders='/etc'/></JobOptions>");
+    expectSame("<JobOptions MaxPoints='7'><RetainDays RetainDays='30'/></JobOptions>",
+               "<JobOptions><!-- days --><RetainDays>\n30\n</RetainDays></JobOptions>");
+}
+
 TEST(DiffText, ALoneScheduleIsAScheduleToo)
 {
     auto text = example("schedule-options.xml");

@@ -1,8 +1,6 @@
 #include "markup_diff.h"
 
-#include <algorithm>
 #include <array>
-#include <map>
 #include <string_view>
 
 #include <tinyxml2.h>
@@ -10,6 +8,7 @@
 #include <zelplatform/exc/exc.h>
 
 #include "document_names.h"
+#include "markup_elements.h"
 
 namespace describe
 {
@@ -58,48 +57,11 @@ const char* findValue(const XMLElement& element, const XMLElement& written, cons
     return nullptr;
 }
 
-std::string textOf(const XMLElement& element)
-{
-    std::string text;
-    for (const auto* node = element.FirstChild(); node != nullptr; node = node->NextSibling())
-        text += node->ToText() == nullptr ? "" : node->Value();
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
-    text.erase(text.begin(), std::find_if_not(text.begin(), text.end(), isBlank));
-    text.erase(std::find_if_not(text.rbegin(), text.rend(), isBlank).base(), text.end());
-    return text;
-}
-
 std::string nameOf(const XMLNode* node)
 {
     const auto* element = node == nullptr ? nullptr : node->ToElement();
     return element == nullptr ? std::string() : element->Name();
 }
-
-/// The elements below a node by name, in their order.
-class Children
-{
-public:
-    explicit Children(const XMLNode* parent)
-    {
-        const auto* child = parent == nullptr ? nullptr : parent->FirstChildElement();
-        for (; child != nullptr; child = child->NextSiblingElement())
-            m_byName[child->Name()].push_back(child);
-    }
-
-    /// The next one of the name that was not taken yet; none when there is none.
-    const XMLElement* take(std::string_view name)
-    {
-        const auto found = m_byName.find(name);
-        if (found == m_byName.end())
-            return nullptr;
-        auto& taken = m_taken[found->first];
-        return taken < found->second.size() ? found->second[taken++] : nullptr;
-    }
-
-private:
-    std::map<std::string_view, std::vector<const XMLElement*>> m_byName;
-    std::map<std::string_view, std::size_t> m_taken;
-};
 
 class Walk
 {
@@ -175,7 +137,7 @@ void Walk::compareElement(const XMLElement& element, const XMLElement* written)
 
 void Walk::compareChildren(const XMLNode& parent, const XMLNode* written)
 {
-    Children others(written);
+    ElementsByName others(written);
     for (const auto* child = parent.FirstChildElement(); child != nullptr; child = child->NextSiblingElement())
         compareElement(*child, others.take(child->Name()));
 }
@@ -185,7 +147,7 @@ void Walk::compareChildren(const XMLNode& parent, const XMLNode* written)
 void Walk::compareDocuments(const XMLNode& before, const XMLNode& after)
 {
     countOther(before);
-    Children others(&after);
+    ElementsByName others(&after);
     const auto* writtenRoot = after.FirstChildElement();
     for (const auto* root = before.FirstChildElement(); root != nullptr; root = root->NextSiblingElement())
     {

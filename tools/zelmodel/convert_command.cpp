@@ -1,5 +1,6 @@
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <unistd.h>
@@ -22,10 +23,10 @@ using nlohmann::ordered_json;
 struct Arguments
 {
     std::string file;
-    std::string output; ///< empty: standard output, or the file itself
+    std::optional<std::string> output; ///< nothing: standard output, or the file itself
     bool isInPlace = false;
 
-    bool isPrinted() const noexcept { return output.empty() && !isInPlace; }
+    bool isPrinted() const noexcept { return !output && !isInPlace; }
 };
 
 /// What was written, as members of the JSON.
@@ -59,10 +60,10 @@ Written writeAsTold(const Arguments& arguments, const std::string& text, const C
 {
     if (arguments.isInPlace)
         return writeInPlace(arguments, text, conversion);
-    if (arguments.output.empty())
+    if (!arguments.output)
         return isShown ? Written{{"document", conversion.text}} : Written{{"documentHidden", true}};
-    writeNewFile(arguments.output, conversion.text);
-    return {{"output", arguments.output}};
+    writeNewFile(*arguments.output, conversion.text);
+    return {{"output", *arguments.output}};
 }
 
 void tellWritten(const Written& written)
@@ -97,8 +98,8 @@ int convert(const Arguments& arguments, Session& session)
                   << ": holds secrets, which the terminal would show. Use --reveal, -o, --in-place or a pipe.\n";
         return exit_code::Usage;
     }
-    if (!arguments.output.empty())
-        session.reading.name = arguments.output;
+    if (arguments.output)
+        session.reading.name = *arguments.output;
     const auto written = writeAsTold(arguments, text, conversion, isShown);
     if (session.output.isJson())
     {
