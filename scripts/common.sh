@@ -5,7 +5,7 @@ export LC_ALL=C.UTF-8
 
 build_packages=(
     g++ cmake ninja-build libboost1.81-dev libtinyxml2-dev libssl-dev libspdlog-dev libmagicenum-dev
-    libcli11-dev nlohmann-json3-dev zlib1g-dev libgtest-dev openssl)
+    libcli11-dev nlohmann-json3-dev zlib1g-dev libgtest-dev openssl tzdata)
 clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.

@@ -55,7 +55,8 @@ describe::Node describeNextDays(const CScheduleOptions& schedule, const BackupWi
 
 std::string tellWhyNothingIsNext(const CScheduleOptions& schedule, EDocumentKind kind)
 {
-    return when::tellWhyNothingIsNext(Evaluation(schedule, nullptr, date("2026-03-02")), kind);
+    return when::tellWhyNothing(Evaluation(schedule, nullptr, date("2026-03-02")), kind,
+                                "no day comes within 41 years");
 }
 
 /// The words of the rows: date, week day, start, full, window. In the zone of the tests no day needs a word of the

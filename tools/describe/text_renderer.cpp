@@ -7,6 +7,7 @@
 #include <zelplatform/util/util.h>
 
 #include "terminal_text.h"
+#include "text_layout.h"
 #include "words.h"
 
 namespace describe
@@ -14,8 +15,6 @@ namespace describe
 namespace
 {
 
-constexpr std::size_t Indent = 2;
-constexpr std::size_t Gap = 2;
 constexpr std::size_t NarrowestWords = 20;
 
 struct Line
@@ -24,13 +23,6 @@ struct Line
     std::string label;
     std::string words;
 };
-
-// Characters, as each takes one column; wide and combining ones are not told apart.
-std::size_t columnsOf(std::string_view text)
-{
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
 
 std::string originOf(const Node& node)
 {
@@ -63,12 +55,6 @@ void collectLines(const std::vector<Node>& nodes, std::size_t depth, const TextS
     }
 }
 
-std::string paddedTo(std::string text, std::size_t width)
-{
-    const auto columns = columnsOf(text);
-    return columns < width ? text.append(width - columns, ' ') : text;
-}
-
 bool hasOrigin(const Node& node)
 {
     return node.origin.kind != EOrigin::None || std::any_of(node.children.begin(), node.children.end(), hasOrigin);
@@ -92,22 +78,6 @@ public:
 private:
     std::size_t m_width;
 };
-
-std::string withoutTrailingBlanks(std::string text)
-{
-    text.erase(text.find_last_not_of(' ') + 1);
-    return text;
-}
-
-std::string renderTitle(const Node& node, const TextStyle& style, std::size_t start)
-{
-    auto title = printable(node.label);
-    const auto words = shownWords(node, style);
-    if (!words.empty())
-        title += (title.empty() ? "" : ": ") + words;
-    title = broken(title, start, style);
-    return (style.isBold ? "\x1b[1m" + title + "\x1b[0m" : title) + '\n';
-}
 
 } // namespace
 
@@ -146,6 +116,16 @@ std::string broken(const std::string& text, std::size_t column, const TextStyle&
     return lines;
 }
 
+std::string renderTitle(const Node& node, const TextStyle& style, std::size_t column)
+{
+    auto title = printable(node.label);
+    const auto words = shownWords(node, style);
+    if (!words.empty())
+        title += (title.empty() ? "" : ": ") + words;
+    title = broken(title, column, style);
+    return (style.isBold ? "\x1b[1m" + title + "\x1b[0m" : title) + '\n';
+}
+
 std::string renderText(const Node& node, const TextStyle& style)
 {
     std::vector<Line> lines;
@@ -161,40 +141,6 @@ std::string renderText(const Node& node, const TextStyle& style)
         text += withoutTrailingBlanks(margin.with(line.origin) + paddedTo(line.label, labels) +
                                       broken(line.words, start, style)) +
                 '\n';
-    }
-    return text;
-}
-
-std::string renderTable(const Node& node, const TextStyle& style)
-{
-    std::string text = renderTitle(node, style, 0);
-    if (node.children.empty())
-        return text;
-    const auto columns = node.children.front().children.size();
-    std::vector<std::vector<std::string>> rows(node.children.size());
-    std::vector<std::size_t> widths(columns, 0);
-    for (std::size_t row = 0; row < rows.size(); ++row)
-    {
-        for (std::size_t column = 0; column < columns; ++column)
-        {
-            rows[row].push_back(shownWords(node.children[row].children.at(column), style));
-            widths[column] = std::max(widths[column], columnsOf(rows[row][column]));
-        }
-    }
-    std::vector<std::string> heads;
-    for (std::size_t column = 0; column < columns; ++column)
-    {
-        heads.push_back(printable(node.children.front().children[column].label));
-        if (widths[column] > 0)
-            widths[column] = std::max(widths[column], columnsOf(heads[column])) + Gap;
-    }
-    rows.insert(rows.begin(), heads);
-    for (const auto& row : rows)
-    {
-        std::string line;
-        for (std::size_t column = 0; column < columns; ++column)
-            line += widths[column] > 0 ? paddedTo(row[column], widths[column]) : "";
-        text += withoutTrailingBlanks(line) + '\n';
     }
     return text;
 }

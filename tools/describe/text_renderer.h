@@ -31,8 +31,12 @@ std::string broken(const std::string& text, std::size_t column, const TextStyle&
 /// escaped. Ends with a line break.
 std::string renderText(const Node& node, const TextStyle& style);
 
+/// The label and the words of a node as the line above its fields, on a terminal bold and broken like other words.
+std::string renderTitle(const Node& node, const TextStyle& style, std::size_t column);
+
 /// The children of the node as a table: a row for each, a column for each of its fields. Columns that are empty in
-/// every row are left out.
+/// every row are left out. Those that have no room on the terminal stand below the row, each on a line of its own
+/// behind its label.
 std::string renderTable(const Node& node, const TextStyle& style);
 
 } // namespace describe

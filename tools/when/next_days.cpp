@@ -99,14 +99,14 @@ Node describeDays(const Evaluation& evaluation, const CDate& from, const std::ve
     return node;
 }
 
-std::string tellWhyNothingIsNext(const Evaluation& evaluation, describe::EDocumentKind kind)
+std::string tellWhyNothing(const Evaluation& evaluation, describe::EDocumentKind kind, const std::string& noDay)
 {
+    const std::string nothing = "Nothing is scheduled: ";
     if (kind == describe::EDocumentKind::ServerJobOptions)
-        return "Nothing is scheduled: the managing server's form carries no schedule, so the job is disabled.";
+        return nothing + "the managing server's form carries no schedule, so the job is disabled.";
     if (evaluation.schedule().GetJobStartOptions().IsDisabled())
-        return "Nothing is scheduled: the job is disabled.";
-    return "Nothing is scheduled: no day comes within " + util::toStr(Evaluation::YearsToSearch) + " years (" +
-           describe::tellCalendar(evaluation.calendar()) + ").";
+        return nothing + "the job is disabled.";
+    return nothing + noDay + " (" + describe::tellCalendar(evaluation.calendar()) + ").";
 }
 
 } // namespace when

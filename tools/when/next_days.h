@@ -21,7 +21,8 @@ std::string tellFulls(const Fulls& fulls);
 describe::Node describeDays(const Evaluation& evaluation, const zelplatform::model::CDate& from,
                             const std::vector<StartDay>& days);
 
-/// Why there is no day, as a sentence. The kind is that of the document which gave the schedule.
-std::string tellWhyNothingIsNext(const Evaluation& evaluation, describe::EDocumentKind kind);
+/// Why there is no day, as a sentence. The kind is that of the document which gave the schedule; the words tell where
+/// days were looked for: "no day comes within 41 years".
+std::string tellWhyNothing(const Evaluation& evaluation, describe::EDocumentKind kind, const std::string& noDay);
 
 } // namespace when

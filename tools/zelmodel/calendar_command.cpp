@@ -55,8 +55,7 @@ int showSchedule(const ScheduleInput& input, const Arguments& arguments, const S
     const auto first = arguments.year.value_or(arguments.month.value_or(thisMonth()));
     const when::Evaluation evaluation(input.schedule, input.window.get(), first);
     if (input.schedule.GetJobStartOptions().IsDisabled())
-        return tellNothing(session, arguments.documents, "calendar",
-                           when::tellWhyNothingIsNext(evaluation, input.kind));
+        return tellNothing(session, arguments.documents, "calendar", when::tellWhyNothing(evaluation, input.kind, {}));
     const auto months = when::planMonths(evaluation, first, arguments.year ? MonthsOfYear : 1);
     const auto title = when::tellSchedule(evaluation, first);
     const auto& style = session.output.style();

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -5,8 +6,11 @@
 #include "commands.h"
 #include "date_option.h"
 #include "describe/json_renderer.h"
+#include "describe/terminal_text.h"
+#include "describe/words.h"
 #include "exit_code.h"
 #include "schedule_input.h"
+#include "when/ical.h"
 #include "when/next_days.h"
 
 namespace
@@ -15,26 +19,74 @@ namespace
 using zelplatform::model::CDate;
 
 constexpr unsigned MostDays = 1000;
+constexpr unsigned UsualDays = 10;
+constexpr long MostDaysToUntil = 36600;
+constexpr long SecondsOfDay = 86400;
 
 struct Arguments
 {
     ScheduleArguments documents;
     std::optional<CDate> from; ///< nothing: the local date of today
-    unsigned count = 10;
+    std::optional<CDate> until;
+    std::optional<unsigned> count;
+    bool isPrevious = false;
+    bool isIcal = false;
 };
+
+long daysTo(const CDate& from, const CDate& until)
+{
+    return (datetime::CDateTime(until).toUnixTime() - datetime::CDateTime(from).toUnixTime()) / SecondsOfDay;
+}
+
+void check(const Arguments& arguments)
+{
+    checkScheduleArguments(arguments.documents);
+    if (!arguments.until)
+        return;
+    const auto days = daysTo(arguments.from.value_or(today()), *arguments.until);
+    if (days < 0)
+        throw CLI::ValidationError("--until", "The last day lies before the first");
+    if (days > MostDaysToUntil)
+        throw CLI::ValidationError("--until", "The last day lies more than " + std::to_string(MostDaysToUntil) +
+                                                  " days after the first");
+}
+
+std::vector<when::StartDay> findDays(const when::Evaluation& evaluation, const Arguments& arguments, const CDate& from)
+{
+    if (arguments.isPrevious)
+        return evaluation.daysBefore(from, arguments.count.value_or(UsualDays));
+    const auto all = static_cast<unsigned>(MostDaysToUntil) + 1;
+    return evaluation.daysFrom(from, arguments.count.value_or(arguments.until ? all : UsualDays), arguments.until);
+}
+
+std::string tellNoDay(const Arguments& arguments)
+{
+    if (arguments.isPrevious)
+        return "no day came within 41 years before";
+    return arguments.until ? "no day comes up to " + describe::isoDate(*arguments.until)
+                           : "no day comes within 41 years";
+}
 
 int next(const Arguments& arguments, Session& session)
 {
+    const auto& file = arguments.documents.file;
     const auto input = readSchedule(arguments.documents, session.reading);
     const auto from = arguments.from.value_or(today());
     const when::Evaluation evaluation(input.schedule, input.window.get(), from);
-    const auto days = evaluation.daysFrom(from, arguments.count);
+    const auto days = findDays(evaluation, arguments, from);
     if (days.empty())
-        return tellNothing(session, arguments.documents, "next", when::tellWhyNothingIsNext(evaluation, input.kind));
-    const auto tree = when::describeDays(evaluation, from, days);
+        return tellNothing(session, arguments.documents, "next",
+                           when::tellWhyNothing(evaluation, input.kind, tellNoDay(arguments)));
     const auto& style = session.output.style();
+    if (arguments.isIcal)
+    {
+        const auto name = std::filesystem::path(shownName(file)).filename().string();
+        session.output.print(when::renderIcal(evaluation, days, describe::printable(name)));
+        return exit_code::Fine;
+    }
+    const auto tree = when::describeDays(evaluation, from, days);
     if (session.output.isJson())
-        session.output.printJson("next", arguments.documents.file, {{tree.name, describe::toJson(tree, style)}});
+        session.output.printJson("next", file, {{tree.name, describe::toJson(tree, style)}});
     else
         session.output.print(describe::renderTable(tree, style));
     return exit_code::Fine;
@@ -48,9 +100,13 @@ void addNext(Dispatcher& commands)
     const auto arguments = std::make_shared<Arguments>();
     addScheduleArguments(command, arguments->documents);
     addDateOption(command, "--from", arguments->from, "The first day that counts; today unless given");
-    command.add_option("-n,--count", arguments->count, "How many days")
-        ->check(CLI::Range(1U, MostDays))
-        ->capture_default_str();
-    command.callback([arguments] { checkScheduleArguments(arguments->documents); });
+    auto* until = addDateOption(command, "--until", arguments->until, "The last day that counts");
+    command.add_option("-n,--count", arguments->count, "How many days; 10, or all with --until, unless given")
+        ->check(CLI::Range(1U, MostDays));
+    command.add_flag("--previous", arguments->isPrevious, "The last days before --from, the latest first")
+        ->excludes(until);
+    command.add_flag("--ical", arguments->isIcal, "Print a calendar for other programs (RFC 5545)")
+        ->excludes(command.get_option("--json"));
+    command.callback([arguments] { check(*arguments); });
     commands.setWork(command, [arguments](Session& session) { return next(*arguments, session); });
 }
