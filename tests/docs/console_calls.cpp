@@ -1,5 +1,6 @@
 #include "console_calls.h"
 
+#include <algorithm>
 #include <iomanip>
 #include <sstream>
 #include <utility>
@@ -24,6 +25,14 @@ std::vector<std::string> linesOf(const std::string& text)
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line);)
         lines.push_back(line);
+    return lines;
+}
+
+/// In a block empty lines set calls apart, so that those of an answer do not count.
+std::vector<std::string> filledLinesOf(const std::string& text)
+{
+    auto lines = linesOf(text);
+    lines.erase(std::remove(lines.begin(), lines.end(), std::string()), lines.end());
     return lines;
 }
 
@@ -111,7 +120,7 @@ std::size_t expectAnswersAsShown(const std::string& page)
     for (const auto& call : calls)
     {
         const auto result = runCommand(call.arguments);
-        auto lines = linesOf(result.output + result.messages);
+        auto lines = filledLinesOf(result.output + result.messages);
         if (!call.shown.empty() && call.shown.back().rfind("(exit status", 0) == 0)
             lines.push_back("(exit status " + std::to_string(result.exitCode) + ")");
         EXPECT_TRUE(matches(call.shown, lines)) << joined(call.arguments, ' ') << "\nshown:\n"

@@ -15,8 +15,6 @@ namespace describe
 namespace
 {
 
-constexpr std::size_t NarrowestWords = 20;
-
 struct Line
 {
     std::string origin;
@@ -97,7 +95,7 @@ std::string broken(const std::string& text, std::size_t column, const TextStyle&
 {
     if (style.width == 0)
         return text;
-    const auto room = std::max(style.width > column ? style.width - column : 0, NarrowestWords);
+    const auto room = std::max(style.width > column ? style.width - column : 0, style.narrowestWords);
     std::string lines;
     std::size_t used = 0;
     for (std::size_t from = 0; from < text.size();)

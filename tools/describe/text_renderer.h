@@ -14,6 +14,7 @@ struct TextStyle
     std::size_t width = 0; ///< columns of the terminal at which long words are broken; 0: never
     bool isBold = false;   ///< the first line in bold; only a terminal understands it
     bool showsSecrets = false;
+    std::size_t narrowestWords = 20; ///< columns that broken words get, even where the terminal has not so many
     std::size_t longestWords = 4096; ///< bytes of one field's words; the middle of longer ones is left out
 };
 

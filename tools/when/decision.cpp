@@ -60,7 +60,7 @@ std::string tellOccurrence(const CDateTime& date)
 
 void addMonthly(const CScheduleCalendar& calendar, const CDateTime& date, std::vector<Condition>& conditions)
 {
-    conditions.push_back({"dayOfMonth", "Day of the month", isOnDayOfMonth(calendar, CDate(date)),
+    conditions.push_back({"dayOfMonth", "Day of month", isOnDayOfMonth(calendar, CDate(date)),
                           util::toStr(date.day()) + " of " + util::toStr(date.getMonthLastDay())});
     conditions.push_back({"weekDayNumber", "Occurrence", isOccurrence(calendar, date), tellOccurrence(date)});
     conditions.push_back({"monthMask", "Month", calendar.GetMonthMask().IsMonthOn(date.getMonth()),

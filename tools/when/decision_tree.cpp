@@ -22,7 +22,7 @@ using describe::Node;
 using zelplatform::model::CDate;
 using zelplatform::model::structs::CFullBackupOptions;
 
-constexpr const char* Pointer = "  <-- the first that says no";
+constexpr const char* Pointer = " <-- the first no";
 
 /// The field of the name, in the node or below it; the null pointer when there is none.
 const Node* findField(const Node& node, const std::string& name)
@@ -47,7 +47,7 @@ public:
     {
         const auto* first = firstNo(conditions);
         for (const auto& condition : conditions)
-            add(condition, findField(*m_part, condition.field), "the document says ", &condition == first, node);
+            add(condition, findField(*m_part, condition.field), "document: ", &condition == first, node);
     }
 
     static void add(const Condition& condition, const Node* field, const std::string& source, bool isFirstNo,
@@ -57,7 +57,7 @@ public:
         if (!condition.asked.empty())
             words += ", " + condition.asked;
         const bool isDefault = field->origin.kind == EOrigin::Default;
-        words += "; " + (isDefault ? "the default is " : source) + field->words;
+        words += "; " + (isDefault ? "default: " : source) + field->words;
         node.children.push_back(makeField(condition.field, condition.label, condition.holds,
                                           words + (isFirstNo ? Pointer : ""), field->origin));
     }
@@ -81,7 +81,7 @@ void addConditions(const Decision& decision, const CDateTime& moment, const Docu
         conditions.pop_back();
     Teller(trees.document, "jobStart").add(conditions, node);
     if (hasWindow)
-        Teller::add(decision.conditions.back(), &windowField(trees.window, moment), trees.nameOfWindow + " says ",
+        Teller::add(decision.conditions.back(), &windowField(trees.window, moment), trees.nameOfWindow + ": ",
                     firstNo(decision.conditions) == &decision.conditions.back(), node);
 }
 

@@ -15,12 +15,21 @@ namespace
 using datetime::CDateTime;
 using zelplatform::model::CDate;
 
+constexpr std::size_t NarrowestWords = 10;
+
 struct Arguments
 {
     ScheduleArguments documents;
     std::optional<CDateTime> at;
     std::optional<CDate> from; ///< nothing: the day that is asked about
 };
+
+// The labels of a decision leave few columns on a small terminal.
+describe::TextStyle narrow(describe::TextStyle style)
+{
+    style.narrowestWords = NarrowestWords;
+    return style;
+}
 
 int why(const Arguments& arguments, Session& session)
 {
@@ -35,7 +44,7 @@ int why(const Arguments& arguments, Session& session)
     if (session.output.isJson())
         session.output.printJson("why", arguments.documents.file, {{tree.name, describe::toJson(tree, style)}});
     else
-        session.output.print(describe::renderText(tree, style));
+        session.output.print(describe::renderText(tree, narrow(style)));
     return decision.isStart ? exit_code::Fine : exit_code::NotScheduled;
 }
 
