@@ -9,6 +9,7 @@
 
 #include <zelmodel/sessions.h>
 
+#include "log_lines.h"
 #include "ratio_table.h"
 
 namespace
@@ -18,21 +19,10 @@ using namespace zelplatform::model;
 
 constexpr std::size_t Lines = 4096;
 
-/// Lines of about 120 bytes; the benchmarks go round them.
+/// The benchmarks go round them.
 const std::vector<std::string>& logLines()
 {
-    static const std::vector<std::string> lines = [] {
-        const char* severities[] = {"processing", "info", "warn", "error"};
-        std::vector<std::string> all;
-        for (std::size_t i = 0; i < Lines; ++i)
-        {
-            const auto second = std::to_string(10 + i % 50);
-            all.push_back("2024-03-07 13:05:" + second + " UTC 7929741c-d273-43c0-848a-7e2157894e4a " +
-                          severities[i % 4] + " Backing up /export/home/user" + std::to_string(i) +
-                          ": 3.2 GB read at 112 MB/s");
-        }
-        return all;
-    }();
+    static const auto lines = zelmodel_bench::makeLogLines(Lines);
     return lines;
 }
 

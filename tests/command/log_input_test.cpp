@@ -105,7 +105,9 @@ TEST(LogInput, AFileThatFailsDoesNotKeepTheOthersBack)
     EXPECT_EQ(runCommand({"log", cut}).exitCode, 3);
     EXPECT_EQ(runCommand({"log", cut, "--check"}).exitCode, 3);
     EXPECT_EQ(runCommand({"log", folder / ""}).exitCode, 4);
-    EXPECT_EQ(runCommand({"log", folder / "no/job.log", "--rotated"}).exitCode, 4);
+    const auto noFolder = runCommand({"log", folder / "no/job.log", "--rotated"});
+    EXPECT_EQ(noFolder.exitCode, 4);
+    EXPECT_EQ(noFolder.messages, folder / "no/job.log" + ": cannot be read: No such file or directory\n");
     EXPECT_EQ(runCommand({"log", folder / "job.log", "--rotated", "--follow"}).exitCode, 4);
 }
 

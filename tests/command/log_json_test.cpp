@@ -60,6 +60,13 @@ TEST(LogJson, ListsTheFirstThousandSkippedLinesAndCountsAll)
     EXPECT_EQ(json::parse(runCommand({"log", "-", "--json"}, input).output).count("skipped"), 0U);
 }
 
+TEST(LogJson, LongReasonsAreShortened)
+{
+    const auto document =
+        json::parse(runCommand({"log", "-", "--json", "--skipped"}, std::string(60000, 'y') + "\n").output);
+    EXPECT_LT(document["skipped"][0]["reason"].get<std::string>().size(), 600U);
+}
+
 TEST(LogJson, FailuresStandInTheDocument)
 {
     const auto result = runCommand({"log", "logs/nightly.log", "missing.log", "--json"});

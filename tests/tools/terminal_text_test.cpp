@@ -43,6 +43,31 @@ TEST(Printable, EscapesWhatActsOnTerminals)
     }
 }
 
+/// Plain text is passed on in groups of bytes: each byte counts at each place of a group.
+TEST(Printable, FindsEachByteAtEachPlace)
+{
+    const std::string plain = "0123456789abcdefghi~ !";
+    EXPECT_EQ(printable(plain), plain);
+    for (int byte = 0; byte < 256; ++byte)
+    {
+        const bool isPlain = byte >= 0x20 && byte <= 0x7e;
+        for (std::size_t place = 0; place < plain.size(); ++place)
+        {
+            auto text = plain;
+            text[place] = static_cast<char>(byte);
+            EXPECT_EQ(printable(text) == text, isPlain) << byte << " at " << place;
+        }
+    }
+}
+
+TEST(Printable, GoesBehindWhatIsThere)
+{
+    std::string shown = "first ";
+    describe::appendPrintable(shown, "plain ");
+    describe::appendPrintable(shown, "\t");
+    EXPECT_EQ(shown, "first plain \\t");
+}
+
 TEST(Shortened, KeepsWhatFits)
 {
     EXPECT_EQ(shortened("sixteen letters.", 16), "sixteen letters.");

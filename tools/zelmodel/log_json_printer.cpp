@@ -1,8 +1,10 @@
 #include <string>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
 #include "describe/json_renderer.h"
+#include "describe/terminal_text.h"
 #include "input.h"
 #include "log_printer.h"
 #include "logs/summary.h"
@@ -35,7 +37,9 @@ ordered_json jsonOf(const LogReport& report)
 
 ordered_json jsonOfSkipped(const std::string& file, const logs::LogReader& reader)
 {
-    return {{"file", shownName(file)}, {"line", reader.number()}, {"reason", reader.reason()}};
+    return {{"file", shownName(file)},
+            {"line", reader.number()},
+            {"reason", describe::shortened(reader.reason(), LongestReason)}};
 }
 
 /// One object a line: records, the skipped lines when they are listed, and failures.

@@ -17,7 +17,6 @@ using describe::printable;
 using describe::shortened;
 
 constexpr std::size_t PieceSize = 64UL * 1024;
-constexpr std::size_t LongestReason = 400;
 
 /// What both forms of text have in common: messages for people on standard error.
 class TextPrinter : public LogPrinter

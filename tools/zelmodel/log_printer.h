@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -8,6 +9,9 @@
 #include "logs/follow.h"
 #include "logs/log_reader.h"
 #include "output.h"
+
+/// Bytes of the reason of a skipped line; the middle of longer ones is left out.
+constexpr std::size_t LongestReason = 400;
 
 /// What the command prints of a log.
 struct LogForm

@@ -41,13 +41,14 @@ catch (const exc::CRuntimeExc& refusal)
     return LogFailure{file, {}, describe::sentencesOf(refusal.trace())};
 }
 
-std::vector<std::string> filesOf(const LogArguments& arguments)
+std::vector<std::string> filesOf(const LogArguments& arguments, Reading& reading)
 {
     if (!arguments.isRotated)
         return logs::oldestFirst(arguments.files);
     std::vector<std::string> files;
     for (const auto& name : arguments.files)
     {
+        reading.name = name;
         const auto set = logs::rotatedSetOf(name);
         files.insert(files.end(), set.begin(), set.end());
     }
@@ -72,11 +73,12 @@ std::uint64_t sizeOfAll(const std::vector<std::string>& files)
     return size;
 }
 
-// A bar would stand between the lines that go to the same terminal.
+// Lines that go to the same terminal, at once or by way of a pager, would stand on both sides of a bar.
 bool mayShowProgress(const LogArguments& arguments, const Output& output)
 {
-    const bool printsWhileReading = !arguments.form.isSummary && ::isatty(STDOUT_FILENO) != 0;
-    return !output.isPlain() && !output.isJson() && !arguments.isFollow && !printsWhileReading;
+    const bool isForPeople = !output.isPlain() && !output.isJson() && !arguments.form.isJsonLines;
+    const bool isApart = output.isFile() || (arguments.form.isSummary && ::isatty(STDOUT_FILENO) != 0);
+    return isForPeople && isApart && !arguments.isFollow;
 }
 
 } // namespace
@@ -84,7 +86,7 @@ bool mayShowProgress(const LogArguments& arguments, const Output& output)
 LogRun::LogRun(const LogArguments& arguments, Session& session)
     : m_arguments(arguments),
       m_session(session),
-      m_files(filesOf(arguments)),
+      m_files(filesOf(arguments, session.reading)),
       m_printer(makeLogPrinter(session.output, arguments.form, arguments.files.front())),
       m_progress(mayShowProgress(arguments, session.output), sizeOfAll(m_files))
 {

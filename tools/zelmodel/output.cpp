@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "describe/terminal_text.h"
@@ -43,6 +44,12 @@ describe::TextStyle styleOf(const OutputOptions& options)
 Output::Output(const OutputOptions& options)
     : m_isJson(options.isJson), m_isPlain(isPlainWanted(options)), m_style(styleOf(options))
 {
+}
+
+bool Output::isFile() const
+{
+    struct stat status = {};
+    return ::fstat(STDOUT_FILENO, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 void Output::flush() const

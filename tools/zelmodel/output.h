@@ -24,6 +24,9 @@ public:
     bool isJson() const noexcept { return m_isJson; }
     const describe::TextStyle& style() const noexcept { return m_style; }
 
+    /// Whether standard output is a file, so that nobody reads along.
+    bool isFile() const;
+
     /// Whether the user wants neither colours nor moving pictures.
     bool isPlain() const noexcept { return m_isPlain; }
 
