@@ -70,6 +70,25 @@ TEST(DumpFault, EveryTruncationIsRefusedUnlessItIsAnotherForm)
     }
 }
 
+/// What the library reads is told, what it refuses is refused; one wrong bit in every byte.
+TEST(DumpFault, AgreesWithTheLibraryWhateverBitIsWrong)
+{
+    std::size_t refused = 0;
+    for (const auto& sample : dumpSamples())
+    {
+        for (std::size_t at = 0; at < sample.bytes.size(); ++at)
+        {
+            auto bytes = sample.bytes;
+            bytes[at] = static_cast<char>(bytes[at] ^ static_cast<char>(1U << at % 7));
+            const auto told = dump::tell(bytes, &sample.form, false);
+            EXPECT_EQ(told.refusal.has_value(), !libraryRefusal(sample.form, bytes).empty())
+                << sample.form.name << ' ' << at;
+            refused += told.refusal ? 1U : 0U;
+        }
+    }
+    EXPECT_GT(refused, 500U);
+}
+
 struct FaultCase
 {
     const char* file;

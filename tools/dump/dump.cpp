@@ -75,11 +75,17 @@ std::size_t confirmedItems(const Span& root, bool isFaultInside)
     return items.size() > unsure ? items.size() - unsure : 0;
 }
 
-/// Where a sentence of the library quotes the value that it refuses, it stands in square brackets.
+/// Where a sentence of the library quotes the value that it refuses, it stands between square brackets. The value is
+/// not copied, as it may be of a key.
 std::string withoutQuote(std::string sentence, std::string_view hidden)
 {
-    const auto at = sentence.find('[' + std::string(hidden) + ']');
-    return at == std::string::npos ? sentence : sentence.replace(at + 1, hidden.size(), hiddenBytes(hidden.size()));
+    for (auto at = sentence.find('['); at != std::string::npos; at = sentence.find('[', at + 1))
+    {
+        const auto end = at + 1 + hidden.size();
+        if (end < sentence.size() && sentence[end] == ']' && sentence.compare(at + 1, hidden.size(), hidden) == 0)
+            return sentence.replace(at + 1, hidden.size(), hiddenBytes(hidden.size()));
+    }
+    return sentence;
 }
 
 Refusal refusalAt(const Span& root, std::string_view bytes, const Verdict& verdict, const Visibility& visibility)

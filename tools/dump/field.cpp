@@ -17,6 +17,7 @@ Field tellValue(const Span& span, std::string_view bytes, const Visibility& visi
     Field field;
     field.node = describe::makeField(span.row->name, span.row->label, "", "");
     const auto content = span.contentIn(bytes);
+    field.missing = span.announced - content.size();
     const bool shows = isShown(span, bytes, visibility);
     if (span.isCut())
         field.node.words =
@@ -25,7 +26,7 @@ Field tellValue(const Span& span, std::string_view bytes, const Visibility& visi
         span.row->tell(content, field.node);
     else
         field.node.words = hiddenBytes(content.size());
-    field.node.secret = span.row->shown == EShown::Secret ? span.announced != 0 : !shows;
+    field.node.secret = !span.isCut() && span.announced != 0 && (!shows || span.row->shown == EShown::Secret);
     if (span.row->document != nullptr && visibility.isRead)
         field.document = span.row->document(std::string(content));
     return field;
@@ -50,7 +51,7 @@ Field tellGroup(const Span& span, std::string_view bytes, const Visibility& visi
 
 bool isShown(const Span& span, std::string_view bytes, const Visibility& visibility)
 {
-    if (visibility.showsSecrets)
+    if (visibility.showsSecrets || span.announced == 0)
         return true;
     switch (span.row->shown)
     {
@@ -59,7 +60,7 @@ bool isShown(const Span& span, std::string_view bytes, const Visibility& visibil
     case EShown::WhenSure: return visibility.isSure;
     case EShown::Secret: break;
     }
-    return span.announced == 0;
+    return false;
 }
 
 std::string hiddenBytes(std::size_t count)

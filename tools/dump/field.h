@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,7 @@ struct Field
     describe::Node node; ///< without children; a hidden value is not in it
     std::size_t offset = 0;
     std::size_t length = 0;
+    std::uint64_t missing = 0; ///< bytes that the value takes and the form has not
     std::vector<Field> fields;
     std::optional<describe::Node> document; ///< what the XML in it says
 };

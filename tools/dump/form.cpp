@@ -58,10 +58,10 @@ std::vector<Form> makeForms()
 {
     std::vector<Form> forms{
         makeForm("key-bundle", "Key bundle", readRecord<structs::SExplicitBackupKeys>, walkKeyBundle),
-        makeForm("password-derived-key", "Password-derived key", readRecord<structs::SPasswordDerivedKey>,
-                 walkPasswordDerivedKey),
         makeForm(
-            "key-set", "Key set", [](binary_stream_tt& stream) { crypto::CKeySet::Unserial(stream); }, walkKeySet)};
+            "key-set", "Key set", [](binary_stream_tt& stream) { crypto::CKeySet::Unserial(stream); }, walkKeySet),
+        makeForm("password-derived-key", "Password-derived key", readRecord<structs::SPasswordDerivedKey>,
+                 walkPasswordDerivedKey)};
     for (auto& form : forms)
         form.holdsKeys = true;
     forms.push_back(

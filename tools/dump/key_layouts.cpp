@@ -17,28 +17,20 @@ constexpr std::size_t LeastKeySetSize = 1 + 1 + 4 + 4 + 8 + 4 + 4 + 4;
 constexpr std::size_t VersionOffset = 0;
 constexpr std::size_t NanosecondsOffset = 1 + 1 + 4 + 4 + 8;
 
-template <class TCheck>
-std::string refusalOf(const TCheck& check)
+/// What the library says to a key set in which nothing is set but the version and these bytes.
+std::string refusalOfKeySet(std::size_t offset, std::string_view content)
 try
 {
-    check();
+    std::array<char, LeastKeySetSize> form{1};
+    content.copy(form.data() + offset, content.size());
+    BytesDevice device({form.data(), form.size()});
+    io::binary_stream_tt stream(device);
+    crypto::CKeySet::Unserial(stream);
     return {};
 }
 catch (const exc::CRuntimeExc& refusal)
 {
     return refusal.what();
-}
-
-/// What the library says to a key set in which nothing is set but the version and these bytes.
-std::string refusalOfKeySet(std::size_t offset, std::string_view content)
-{
-    return refusalOf([&] {
-        std::array<char, LeastKeySetSize> form{1};
-        content.copy(form.data() + offset, content.size());
-        BytesDevice device({form.data(), form.size()});
-        io::binary_stream_tt stream(device);
-        crypto::CKeySet::Unserial(stream);
-    });
 }
 
 std::string refusalOfVersion(std::string_view content)
@@ -51,33 +43,32 @@ std::string refusalOfNanoseconds(std::string_view content)
     return refusalOfKeySet(NanosecondsOffset, content);
 }
 
-std::string refusalOfSetId(std::string_view content)
+/// More would not fit into the input, or is refused as soon as it is read.
+template <class TCount, TCount most>
+std::string refusalOfCount(std::string_view content)
 {
-    return refusalOf([&] { crypto::CKeySetId::CheckSize(content.size()); });
-}
-
-std::string refusalOfKey(std::string_view content)
-{
-    return refusalOf([&] { crypto::CKey::CheckSize(content.size()); });
+    return numberOf<TCount>(content) > most ? "too many" : "";
 }
 
 constexpr Row BundleId = guidRow("id", "Identifier");
-constexpr Row EntryCount{"count", "Number of key sets", tellNumber<std::uint64_t>, EShown::Always};
+constexpr Row EntryCount{"count", "Number of key sets", tellNumber<std::uint64_t>, EShown::Always,
+                         refusalOfCount<std::uint64_t, MostBytes>};
 constexpr Row KeySets{"keySets", "Key sets"};
 constexpr Row KeySet{"keySet", "Key set"};
 constexpr Row EntryId = guidRow("entryId", "Identifier");
 
 constexpr Row FormVersion{"version", "Version of the form", tellNumber<std::uint8_t>, EShown::Always, refusalOfVersion};
-constexpr Row SetId{"id", "Key set id", tellKeySetId, EShown::WhenSure, refusalOfSetId};
+constexpr Row SetId{"id", "Key set id", tellKeySetId, EShown::WhenSure, nullptr, crypto::CKeySetId::MaxSize};
 constexpr Row Algorithm{"alg", "Algorithm", tellAlgorithm};
 constexpr Row Role{"role", "Role", tellRole};
 constexpr Row CreationTime{"creationTime", "Created", tellSeconds};
 constexpr Row Nanoseconds{"nanoseconds", "Nanoseconds", tellNumber<std::uint32_t>, EShown::WhenSure,
                           refusalOfNanoseconds};
 constexpr Row Hint{"hint", "Password hint", tellText, EShown::Secret};
-constexpr Row KeyCount{"keyCount", "Number of keys", tellNumber<std::uint32_t>, EShown::Always};
+constexpr Row KeyCount{"keyCount", "Number of keys", tellNumber<std::uint32_t>, EShown::Always,
+                       refusalOfCount<std::uint32_t, crypto::CKeySet::MaxKeys>};
 constexpr Row Keys{"keys", "Keys"};
-constexpr Row Key{"key", "Key", tellHexadecimal, EShown::Secret, refusalOfKey};
+constexpr Row Key{"key", "Key", tellHexadecimal, EShown::Secret, nullptr, crypto::CKey::MaxSize};
 
 constexpr Row Derivation{"buffer", "Derivation", tellHexadecimal, EShown::Secret};
 

@@ -23,7 +23,7 @@ std::string whyNoGuid(std::string_view content);
 /// A GUID as text with its length in front, under the name of the row.
 constexpr Row guidRow(const char* name, const char* label)
 {
-    return {name, label, tellText, EShown::Known, whyNoGuid};
+    return {name, label, tellText, EShown::Known, whyNoGuid, LongestGuid};
 }
 
 } // namespace dump

@@ -55,10 +55,10 @@ constexpr Row InstallationId = guidRow("installationId", "Installation");
 
 constexpr Row IsEnabled{"isEnabled", "Enabled", tellFlag};
 constexpr Row ScheduleType{"scheduleType", "Type", tellNumber<std::int32_t>};
-constexpr Row ScheduleText{"text", "Text", tellXml, EShown::WhenSure, nullptr, describeSchedule};
-constexpr Row StartText{"text", "Text", tellXml, EShown::WhenSure, nullptr, describeJobStart};
+constexpr Row ScheduleText{"text", "Text", tellXml, EShown::WhenSure, nullptr, MostBytes, describeSchedule};
+constexpr Row StartText{"text", "Text", tellXml, EShown::WhenSure, nullptr, MostBytes, describeJobStart};
 
-constexpr Row ClientId{"id", "Client", tellText, EShown::Known, refusalOfClientId};
+constexpr Row ClientId{"id", "Client", tellText, EShown::Known, refusalOfClientId, LongestGuid};
 constexpr Row CompanionMark{"mark", "Mark of companion data", tellText};
 constexpr Row Companion{"companion", "Companion data", tellText};
 

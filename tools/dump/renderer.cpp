@@ -91,8 +91,10 @@ ordered_json toJson(const Field& field, const describe::TextStyle& style)
         return json;
     }
     json.update(describe::toJson(field.node, style));
-    if (field.node.value.empty() && field.node.secret)
+    if (field.node.value.empty() && (field.node.secret || field.missing != 0))
         json.erase("value");
+    if (field.missing != 0)
+        json["missing"] = field.missing;
     if (field.document)
         json["document"] = describe::toJson(*field.document, style);
     return json;

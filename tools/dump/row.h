@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ enum class EShown
     Secret,   ///< when the user asks for secrets
 };
 
+/// Input that is longer is refused, so that the tree of its fields fits into memory.
+constexpr std::size_t MostBytes = 1024UL * 1024;
+
 /// What a field of a binary form is: the table beside the library's reader gives its bytes a name and words. Most hold
 /// one value; a row without words is a group of fields or a list.
 struct Row
@@ -32,6 +36,9 @@ struct Row
     /// Why the library refuses the content, in its own sentence; empty when it does not. Only where the refusal may
     /// come later than the reading, or where it helps to recognise the form.
     std::string (*refusal)(std::string_view content) = nullptr;
+
+    /// Bytes that the content has at most.
+    std::size_t most = MostBytes;
 
     /// The XML document that the content holds, in words.
     describe::Node (*document)(const std::string& content) = nullptr;

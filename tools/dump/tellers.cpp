@@ -21,8 +21,7 @@ using describe::Node;
 using zelplatform::model::ECryptoAlg;
 using zelplatform::model::ECryptoKeyType;
 
-constexpr std::size_t GuidSize = 36;
-constexpr std::size_t BracedGuidSize = GuidSize + 2;
+constexpr std::size_t GuidSize = LongestGuid - 2;
 
 std::string hexadecimal(std::string_view bytes)
 {
@@ -59,7 +58,7 @@ catch (const std::exception&)
 bool canBeGuid(std::string_view content)
 {
     const auto isPart = [](unsigned char c) { return std::isxdigit(c) != 0 || c == '-' || c == '{' || c == '}'; };
-    const bool isSize = content.empty() || content.size() == GuidSize || content.size() == BracedGuidSize;
+    const bool isSize = content.empty() || content.size() == GuidSize || content.size() == LongestGuid;
     return isSize && std::all_of(content.begin(), content.end(), isPart);
 }
 

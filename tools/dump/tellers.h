@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -48,6 +49,9 @@ void tellXml(std::string_view content, describe::Node& node);
 void tellAlgorithm(std::string_view content, describe::Node& node);
 void tellRole(std::string_view content, describe::Node& node);
 void tellSeconds(std::string_view content, describe::Node& node);
+
+/// Bytes of the longest text of a GUID, in braces.
+constexpr std::size_t LongestGuid = 38;
 
 /// Whether the bytes can be the text of a GUID, as far as their number and their characters go.
 bool canBeGuid(std::string_view content);

@@ -26,7 +26,7 @@ bool Walk::add(const Row& row, std::size_t offset, std::uint64_t announced)
 
 void Walk::checkContent(const Span& span)
 {
-    if (!m_doubt && (span.announced > MostBytes || !span.refusalIn(m_bytes).empty()))
+    if (!m_doubt && (span.announced > span.row->most || !span.refusalIn(m_bytes).empty()))
         m_doubt = span.offset;
 }
 

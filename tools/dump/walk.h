@@ -16,9 +16,6 @@
 namespace dump
 {
 
-/// Input that is longer is refused, so that the tree of its fields fits into memory.
-constexpr std::size_t MostBytes = 1024UL * 1024;
-
 /// Where a field stands in a binary form.
 struct Span
 {
@@ -100,7 +97,7 @@ public:
     bool isWhole() const { return !m_isOver && rest().empty() && !m_doubt; }
 
     /// The bytes that the form explains well: all of a form that was cut off, but none from the first field on that
-    /// announces more than any file holds or has a content which the library refuses.
+    /// announces more than it can have or holds what the library refuses.
     std::size_t explained() const { return m_doubt.value_or(m_isOver ? m_bytes.size() : m_device.position()); }
 
     /// The fields, in the order of the bytes.
