@@ -8,6 +8,7 @@
 
 #include "describe/words.h"
 #include "recognition.h"
+#include "refusal.h"
 
 namespace dump
 {
@@ -16,52 +17,6 @@ namespace
 
 constexpr const char* LeftOverName = "leftOver";
 constexpr const char* LeftOverLabel = "Left over";
-
-std::string bytesOf(std::uint64_t count)
-{
-    return describe::countOf(count, "byte");
-}
-
-/// Drops the spans behind the fault; false when it is not in this one.
-bool endAt(const Span& fault, Span& span)
-{
-    if (&span == &fault)
-        return true;
-    for (auto child = span.children.begin(); child != span.children.end(); ++child)
-    {
-        if (!endAt(fault, *child))
-            continue;
-        span.children.erase(child + 1, span.children.end());
-        span.end = child->end;
-        return true;
-    }
-    return false;
-}
-
-/// "Password hint of key set 1" for the last of the spans.
-std::string pathOfLast(const Span& root)
-{
-    std::string path;
-    const auto* list = &root;
-    for (const auto* span = &root; !span->children.empty();)
-    {
-        const bool isItem = span->isList;
-        list = span;
-        span = &span->children.back();
-        if (span->isList)
-            continue;
-        auto label = std::string(span->row->label) + (isItem ? ' ' + util::toStr(list->children.size()) : "");
-        if (!path.empty())
-            label += " of " + util::tolower(path.substr(0, 1)) + path.substr(1);
-        path = label;
-    }
-    return path;
-}
-
-const Span& lastOf(const Span& span)
-{
-    return span.children.empty() ? span : lastOf(span.children.back());
-}
 
 /// The items of the form's list that something after them confirms. What is wrong with an item may show in the first
 /// field of the next one only.
@@ -75,47 +30,11 @@ std::size_t confirmedItems(const Span& root, bool isFaultInside)
     return items.size() > unsure ? items.size() - unsure : 0;
 }
 
-/// Where a sentence of the library quotes the value that it refuses, it stands between square brackets. The value is
-/// not copied, as it may be of a key.
-std::string withoutQuote(std::string sentence, std::string_view hidden)
-{
-    for (auto at = sentence.find('['); at != std::string::npos; at = sentence.find('[', at + 1))
-    {
-        const auto end = at + 1 + hidden.size();
-        if (end < sentence.size() && sentence[end] == ']' && sentence.compare(at + 1, hidden.size(), hidden) == 0)
-            return sentence.replace(at + 1, hidden.size(), hiddenBytes(hidden.size()));
-    }
-    return sentence;
-}
-
-Refusal refusalAt(const Span& root, std::string_view bytes, const Verdict& verdict, const Visibility& visibility)
-{
-    const auto& fault = lastOf(root);
-    Refusal refusal{fault.offset, pathOfLast(root), verdict.sentences};
-    if (fault.row == nullptr)
-        return refusal;
-    if (!fault.isCut() && !isShown(fault, bytes, visibility))
-    {
-        for (auto& sentence : refusal.sentences)
-            sentence = withoutQuote(std::move(sentence), fault.contentIn(bytes));
-    }
-    std::string where = '"' + refusal.field + '"';
-    if (fault.isCut())
-    {
-        refusal.offset = fault.content;
-        const auto left = bytes.size() - fault.content;
-        where += (fault.content > fault.offset ? " announces " : " takes ") + bytesOf(fault.announced) + ", " +
-                 util::toStr(left) + (left == 1 ? " is left" : " are left");
-    }
-    refusal.sentences.push_back("At offset " + util::toStr(refusal.offset) + ": " + where + '.');
-    return refusal;
-}
-
 Field leftOver(std::size_t offset, std::size_t size)
 {
     Field field;
-    field.node =
-        describe::makeField(LeftOverName, LeftOverLabel, "", bytesOf(size - offset) + " that the reader passes over");
+    field.node = describe::makeField(LeftOverName, LeftOverLabel, "",
+                                     describe::countOf(size - offset, "byte") + " that the reader passes over");
     field.offset = offset;
     field.length = size - offset;
     return field;
@@ -173,10 +92,10 @@ void tellRead(Recognised& found, bool showsSecrets, Dump& result)
     if (end < found.bytes.size())
         result.fields.push_back(leftOver(end, found.bytes.size()));
     if (!found.isRead)
-        result.refusal = Refusal{
-            end,
-            LeftOverLabel,
-            {"It ends at offset " + util::toStr(end) + "; " + bytesOf(found.bytes.size() - end) + " too many follow."}};
+        result.refusal = Refusal{end,
+                                 LeftOverLabel,
+                                 {"It ends at offset " + util::toStr(end) + "; " +
+                                  describe::countOf(found.bytes.size() - end, "byte") + " too many follow."}};
 }
 
 // The layout only names what the library reads: where the two do not end at the same byte, the names are wrong.

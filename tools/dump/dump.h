@@ -8,17 +8,10 @@
 
 #include "field.h"
 #include "form.h"
+#include "refusal.h"
 
 namespace dump
 {
-
-/// Why and where the library could not read a form.
-struct Refusal
-{
-    std::size_t offset = 0;             ///< of the first byte that is missing, or of the field that was refused
-    std::string field;                  ///< "Password hint of key set 1"; empty when there is none
-    std::vector<std::string> sentences; ///< the library's, then where it was
-};
 
 /// A binary form, told byte by byte.
 struct Dump
