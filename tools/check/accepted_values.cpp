@@ -1,5 +1,7 @@
 #include "accepted_values.h"
 
+#include <algorithm>
+
 #include <zelplatform/datetime/names.h>
 #include <zelplatform/util/util.h>
 
@@ -99,12 +101,23 @@ void addGuesses(const std::string& refused, Values& values)
         values.emplace_back(word);
 }
 
+bool isDayOrMonth(const std::string& name)
+{
+    const auto holds = [&](const std::vector<std::string>& names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    return holds(datetime::EDayOfWeek::GetLongStrSet()) || holds(datetime::EMonth::GetLongStrSet());
+}
+
 } // namespace
 
 Values valuesToTry(const std::string& name, const std::string& refused)
 {
     Values values;
     addGuesses(refused, values);
+    // A day or month that is not mentioned was hardly chosen.
+    if (refused.empty() && isDayOrMonth(name))
+        values.emplace_back("false");
     for (const auto& row : FittingValues)
     {
         if (name == row.name)
@@ -118,9 +131,7 @@ Values valuesToTry(const std::string& name, const std::string& refused)
 
 std::vector<std::string> namesToTry(const std::string& refused)
 {
-    std::vector<std::string> days;
-    for (int day = datetime::EDayOfWeek::Sunday; day <= datetime::EDayOfWeek::Saturday; ++day)
-        days.push_back(datetime::EDayOfWeek::ToStr(static_cast<datetime::EDayOfWeek::type>(day)));
+    auto days = datetime::EDayOfWeek::GetLongStrSet();
     const auto nearest = describe::nearestName(refused, days);
     if (!nearest.empty())
         days.insert(days.begin(), nearest);

@@ -1,6 +1,7 @@
 #include "check.h"
 
 #include <cstdlib>
+#include <string_view>
 #include <utility>
 
 #include "repair.h"
@@ -66,6 +67,10 @@ private:
             return;
         const Subject subject{document, reading, m_window, m_repaired};
         checkNames(subject, m_findings);
+        checkValues(subject, m_findings);
+        checkCalendars(subject, m_findings);
+        checkWindow(subject, m_findings);
+        checkForms(subject, m_findings);
     }
 
     // The first reading that is accepted, or the last one that is refused.
@@ -91,14 +96,14 @@ private:
     void take(const Fault& fault, const Attempt& attempt)
     {
         m_repaired.insert({fault.line, fault.name});
-        // What is missing in an element that was missing itself is no fault of its own.
-        if (fault.line != 0)
+        if (!fault.isConsequence)
             m_findings.add(ruleOf(fault), fault.line, tellFault(fault, attempt.sentences.back()), attempt.sentences);
     }
 
     void stop(const char* rule, int line, const std::vector<std::string>& sentences)
     {
-        m_findings.add(rule, line, sentences.back(), sentences);
+        const bool isUnknown = rule == std::string_view(rule_id::UnknownDocument);
+        m_findings.add(rule, line, isUnknown ? sentences.front() : sentences.back(), sentences);
         m_findings.add(rule_id::RestNotChecked, line, "what stands behind this place was not checked");
     }
 
@@ -114,6 +119,25 @@ std::vector<Finding> checkText(const std::string& text, const BackupWindow* wind
     Findings findings;
     Check(window, findings).checkText(text);
     return std::move(findings).sorted();
+}
+
+std::vector<Finding> refuseText(const std::string& sentence)
+{
+    Findings findings;
+    findings.add(rule_id::MalformedDocument, 0, sentence, {sentence});
+    return std::move(findings).sorted();
+}
+
+std::shared_ptr<const BackupWindow> readWindow(const std::string& text)
+{
+    std::vector<std::string> sentences;
+    const auto document = parseDocument(text, sentences);
+    if (!document)
+        return nullptr;
+    const bool isWindow = document->kind() == describe::EDocumentKind::ScheduleWindow;
+    if (isWindow && !readDocument(*document).tree)
+        return nullptr;
+    return document->readWindow();
 }
 
 } // namespace check

@@ -24,6 +24,12 @@ bool isSameQuestion(const SLookup& a, const SLookup& b)
     return a.kind == b.kind && a.node.GetId() == b.node.GetId() && (a.kind == ELookup::Visit || a.name == b.name);
 }
 
+// A part that is missing is at fault when the refusal says so: readers ask for many parts that may be missing.
+bool isNamed(const SLookup& lookup, const Attempt& refused)
+{
+    return refused.sentences.back().find(lookup.name) != std::string::npos;
+}
+
 int lineOf(const SLookup& lookup)
 {
     const xmlpp::CLookupPause pause;
@@ -54,7 +60,7 @@ bool Repair::passes(const Attempt& refused)
 
 bool Repair::tryAttribute(CXmlNode node, const SLookup& lookup, const Attempt& refused, bool isLast)
 {
-    if (!lookup.isFound && !isLast)
+    if (!lookup.isFound && !(isLast && isNamed(lookup, refused)))
         return false;
     const std::string before(lookup.isFound ? node.GetAttribute(lookup.name) : "");
     for (const auto& value : valuesToTry(lookup.name, before))
@@ -115,7 +121,7 @@ bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
     case ELookup::NamedChildren:
     case ELookup::AllChildren: return false;
     }
-    if (!isLast || lookup.isFound)
+    if (lookup.isFound || !isLast || !isNamed(lookup, refused))
         return false;
     node.AddNode(lookup.name);
     return passes(refused);
@@ -132,7 +138,10 @@ std::optional<Fault> Repair::repair(const Attempt& refused)
         const int line = lineOf(lookup);
         const auto owner = lookup.node.GetName();
         if (tryPart(lookup, refused, i == last))
-            return Fault{lookup.kind, lookup.name, owner, line, lookup.isFound};
+        {
+            const bool isFirst = m_repaired.insert({lookup.node.GetId(), lookup.name}).second;
+            return Fault{lookup.kind, lookup.name, owner, line, lookup.isFound, !isFirst || line == 0};
+        }
     }
     return std::nullopt;
 }

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 
 #include <zelplatform/xmlpp/lookup_record.h>
 
@@ -18,8 +20,9 @@ struct Fault
     xmlpp::ELookup kind;
     std::string name;
     std::string owner;
-    int line; ///< 0 when the element is not the document's own: it was added by an earlier repair
+    int line;
     bool isFound;
+    bool isConsequence; ///< of an earlier repair: it lies in what that has added or changed
 };
 
 /// Repairs a document in memory so that its reader comes further, fault by fault. The text behind it stays as it is.
@@ -41,7 +44,8 @@ private:
     bool passes(const Attempt& refused);
 
     const describe::Document& m_document;
-    std::size_t m_questions = 0; ///< that the readers have asked so far
+    std::set<std::pair<const void*, std::string>> m_repaired; ///< the element and the name
+    std::size_t m_questions = 0;                              ///< that the readers have asked so far
 };
 
 } // namespace check

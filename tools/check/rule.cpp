@@ -82,10 +82,10 @@ const std::vector<Rule>& allRules()
         {rule_id::RepeatedElement, Warning, "an element stands there twice",
          "Of several elements of the same name the first one counts. The reader does not look at the others.",
          "Keep the one that is meant."},
-        {rule_id::RetentionTooLong, Warning, "retention beyond the limit of 730",
-         "Readers accept any number, but every setter refuses more than 730 restore points or days: as soon as "
-         "somebody edits the job, it cannot be saved.",
-         "Write 730 or less."},
+        {rule_id::RetentionBeyondLimits, Warning, "retention beyond the limits of 1 and 730",
+         "Readers accept any number, but every setter refuses none and more than 730 restore points or days: as soon "
+         "as somebody edits the job, it cannot be saved.",
+         "Write a number from 1 to 730."},
         {rule_id::UnknownName, Warning, "nobody knows the name",
          "The reader does not ask for an attribute or element of this name here, so it has no effect. Names count "
          "letter by letter, letter case included. Newer programs may add names of their own.",

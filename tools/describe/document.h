@@ -44,6 +44,9 @@ public:
     /// The window of a "ScheduleWindow" document; other kinds are refused.
     std::shared_ptr<zelplatform::model::structs::BackupWindow> readWindow() const;
 
+    /// The document itself, for those who look at more than its reader does.
+    xmlpp::CXmlNode top() const { return m_xml.ToNode(); }
+
     /// The line that was read last: after a refusal the one that it is about. 0 when none is known.
     int lastReadLine() const { return m_xml.LastReadLine(); }
 

@@ -179,7 +179,7 @@ Node describePart(const IgnoredPart& part)
 {
     const auto remedy = tellRemedy(part);
     auto node = makeField("part", "", part.name, tellPart(part) + (remedy.empty() ? "" : ": " + remedy),
-                          {EOrigin::Document, part.line, part.name});
+                          {EOrigin::Document, part.line, part.name, ""});
     node.children.push_back(makeDetail("kind", "Kind", kindOf(part.part), kindOf(part.part)));
     node.children.push_back(makeDetail("owner", "Owner", part.owner, textOr(part.owner, "none")));
     node.children.push_back(makeDetail("nearest", "Nearest name", part.nearest, textOr(part.nearest, "none")));

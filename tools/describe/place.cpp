@@ -9,9 +9,9 @@ namespace describe
 namespace
 {
 
-Origin found(int line, std::string name)
+Origin found(int line, std::string name, std::string text = {})
 {
-    return {line != 0 ? EOrigin::Document : EOrigin::Default, line, std::move(name)};
+    return {line != 0 ? EOrigin::Document : EOrigin::Default, line, std::move(name), std::move(text)};
 }
 
 } // namespace
@@ -39,7 +39,10 @@ bool Place::has(xmlpp::CXmlName attribute) const
 
 Origin Place::originOf(xmlpp::CXmlName attribute) const
 {
-    return found(has(attribute) ? m_document.LastReadLine() : 0, attribute.c_str());
+    if (!has(attribute))
+        return found(0, attribute.c_str());
+    const int line = m_document.LastReadLine();
+    return found(line, attribute.c_str(), textOf(attribute));
 }
 
 Origin Place::originOf(xmlpp::CXmlName attribute, std::initializer_list<xmlpp::CXmlName> olderNames) const

@@ -76,6 +76,22 @@ std::string tellEvaluableCalendar(const CScheduleCalendar& calendar)
     return days.back() == ',' ? days.substr(0, days.size() - 1) : days;
 }
 
+/// The place is the element that holds the hours.
+Node visitTime(const CScheduleCalendar& calendar, const Place& place)
+{
+    const auto text = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
+    const auto* label = calendar.IsSchedulePeriodically() ? "Period" : "Time of day";
+    auto node = makeDetail("time", label, text, textOr(text, "not set"), place.originOf(schedule_names::Hours));
+    if (!calendar.IsTimeSet())
+        return node;
+    const auto [hours, minutes] = calendar.GetTime().Get();
+    node.children.push_back(
+        makeDetail("hours", "Hours", hours, util::toStr(hours), place.originOf(schedule_names::Hours)));
+    node.children.push_back(
+        makeDetail("minutes", "Minutes", minutes, util::toStr(minutes), place.originOf(schedule_names::Minutes)));
+    return node;
+}
+
 /// Fields of the calendar; the place is the element that it was read from.
 void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::vector<Node>& fields)
 {
@@ -86,10 +102,7 @@ void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::v
                                 ? asOlder(timeElement.originOf(schedule_names::Type))
                                 : place.originOf(schedule_names::Type);
     fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), typeOrigin));
-    const auto time = calendar.IsTimeSet() ? calendar.GetTime().ToTimeStr() : std::string();
-    fields.push_back(makeDetail("time", calendar.IsSchedulePeriodically() ? "Period" : "Time of day", time,
-                                textOr(time, "not set"),
-                                (timeElement.isThere() ? timeElement : place).originOf(schedule_names::Hours)));
+    fields.push_back(visitTime(calendar, timeElement.isThere() ? timeElement : place));
     const auto& weekMask = calendar.GetWeekMask();
     fields.push_back(makeDetail("weekMask", "Week days", weekMask.ToString(",", false),
                                 textOr(weekMask.ToLogStr(false), "none"),

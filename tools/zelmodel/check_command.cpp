@@ -6,21 +6,17 @@
 #include <zelplatform/exc/exc.h>
 
 #include "check/check.h"
+#include "check/report.h"
 #include "commands.h"
-#include "describe/terminal_text.h"
 #include "exit_code.h"
 
 namespace
 {
 
+using check::CheckedFile;
 using check::ESeverity;
 using check::Finding;
-using describe::printable;
-using describe::shortened;
-using nlohmann::ordered_json;
 using zelplatform::model::structs::BackupWindow;
-
-constexpr std::size_t LongestSentence = 400;
 
 struct Arguments
 {
@@ -29,64 +25,91 @@ struct Arguments
     bool isSarif = false;
 };
 
-/// A file and what was found in it.
-struct CheckedFile
+int exitCodeOf(const CheckedFile& file)
 {
-    std::string name;
-    std::vector<Finding> findings;
-};
-
-std::string shown(const std::string& text)
-{
-    return printable(shortened(text, LongestSentence));
-}
-
-void printText(const CheckedFile& file, const Output& output)
-{
-    std::string text;
-    for (const auto& finding : file.findings)
-    {
-        text += printable(shownName(file.name)) + ':' + (finding.line > 0 ? std::to_string(finding.line) + ':' : "") +
-                ' ' + check::nameOf(finding.rule->severity) + ": " + shown(finding.text) + " [" + finding.rule->id +
-                "]\n";
-        for (const auto& sentence : finding.sentences)
-            text += "    " + shown(sentence) + '\n';
-    }
-    output.print(text);
-}
-
-int exitCodeOf(const std::vector<Finding>& findings)
-{
-    const bool isRefused = std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
+    if (!file.failure.empty())
+        return exit_code::CannotRead;
+    const bool isRefused = std::any_of(file.findings.begin(), file.findings.end(), [](const Finding& finding) {
         return finding.rule->severity == ESeverity::Refused;
     });
     if (isRefused)
         return exit_code::Refused;
-    return findings.empty() ? exit_code::Fine : exit_code::Findings;
+    return file.findings.empty() ? exit_code::Fine : exit_code::Findings;
 }
 
-std::shared_ptr<const BackupWindow> readWindow(const std::string& name, Session& session)
+// An input that is too long for any document is refused before it is read whole.
+CheckedFile checkFile(const std::string& name, const BackupWindow* window)
 {
-    if (name.empty())
-        return nullptr;
-    return openDocument(name, session.reading).readWindow();
+    CheckedFile file{shownName(name), {}, ""};
+    try
+    {
+        file.findings = check::checkText(readInput(name), window);
+    }
+    catch (const InputError& error)
+    {
+        file.failure = error.what();
+    }
+    catch (const exc::CRuntimeExc& refusal)
+    {
+        file.findings = check::refuseText(refusal.what());
+    }
+    return file;
 }
 
-int checkFile(const std::string& name, const BackupWindow* window, Session& session)
+// The window is a document like the others: what is wrong with it is told too.
+std::vector<CheckedFile> checkAll(const Arguments& arguments, Session& session)
 {
-    session.reading = Reading{name, std::nullopt};
-    const CheckedFile file{name, check::checkText(readInput(name), window)};
-    printText(file, session.output);
-    return exitCodeOf(file.findings);
+    std::vector<CheckedFile> checked;
+    std::shared_ptr<const BackupWindow> window;
+    if (!arguments.window.empty())
+    {
+        session.reading = Reading{arguments.window, std::nullopt};
+        const auto text = readInput(arguments.window);
+        window = check::readWindow(text);
+        checked.push_back({shownName(arguments.window), check::checkText(text), ""});
+    }
+    for (const auto& file : arguments.files)
+        checked.push_back(checkFile(file, window.get()));
+    return checked;
+}
+
+void print(const std::vector<CheckedFile>& files, const Output& output)
+{
+    if (output.isJson())
+    {
+        auto list = nlohmann::ordered_json::array();
+        for (const auto& file : files)
+            list.push_back(check::toJson(file));
+        output.printJson("check", files.back().name, {{"files", list}});
+        return;
+    }
+    for (const auto& file : files)
+    {
+        output.print(check::toText(file));
+        if (!file.failure.empty())
+            output.printFailure(file.name, file.failure);
+    }
 }
 
 int checkFiles(const Arguments& arguments, Session& session)
 {
-    const auto window = readWindow(arguments.window, session);
+    const auto files = checkAll(arguments, session);
+    if (arguments.isSarif)
+        session.output.printForeignJson(check::toSarif(files, ZELMODEL_VERSION));
+    else
+        print(files, session.output);
     int worst = exit_code::Fine;
-    for (const auto& file : arguments.files)
-        worst = std::max(worst, checkFile(file, window.get(), session));
+    for (const auto& file : files)
+        worst = std::max(worst, exitCodeOf(file));
     return worst;
+}
+
+void checkArguments(const Arguments& arguments)
+{
+    const auto inputs = std::count(arguments.files.begin(), arguments.files.end(), StandardInput) +
+                        (arguments.window == StandardInput ? 1 : 0);
+    if (inputs > 1)
+        throw CLI::ValidationError("FILE", "Standard input can be read only once");
 }
 
 } // namespace
@@ -98,5 +121,7 @@ void addCheck(Dispatcher& commands)
     command.add_option("FILE", arguments->files, "Documents of any kind; - is standard input")->required();
     command.add_option("--window", arguments->window, "The backup window that the jobs are to run in")
         ->type_name("FILE");
+    command.add_flag("--sarif", arguments->isSarif, "Print the findings in the format SARIF 2.1.0")->excludes("--json");
+    command.callback([arguments] { checkArguments(*arguments); });
     commands.setWork(command, [arguments](Session& session) { return checkFiles(*arguments, session); });
 }

@@ -10,6 +10,7 @@ void addCheck(Dispatcher& commands);
 void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
 void addDump(Dispatcher& commands);
+void addExplain(Dispatcher& commands);
 void addLog(Dispatcher& commands);
 void addNext(Dispatcher& commands);
 void addShow(Dispatcher& commands);

@@ -24,6 +24,7 @@ void addCommands(Dispatcher& commands)
     addConvert(commands);
     addDiff(commands);
     addDump(commands);
+    addExplain(commands);
     addLog(commands);
     addNext(commands);
     addShow(commands);

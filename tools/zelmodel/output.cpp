@@ -71,6 +71,11 @@ void Output::printJson(const std::string& kind, const std::string& file, const o
 {
     ordered_json document{{"kind", kind}, {"schema", JsonSchema}, {"file", shownName(file)}};
     document.update(body);
+    printForeignJson(document);
+}
+
+void Output::printForeignJson(const ordered_json& document) const
+{
     std::cout << document.dump(2, ' ', false, ordered_json::error_handler_t::replace) << '\n';
 }
 

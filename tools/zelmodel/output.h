@@ -44,6 +44,9 @@ public:
     /// the members of the body. Bytes that are no UTF-8 are replaced.
     void printJson(const std::string& kind, const std::string& file, const nlohmann::ordered_json& body) const;
 
+    /// Prints one JSON document of a layout that others have set, likewise.
+    void printForeignJson(const nlohmann::ordered_json& document) const;
+
     /// A refusal: on standard error for people, on standard output as JSON of the kind "error". The line is 0 when
     /// none is known. Sentences may hold anything.
     void printRefusal(const std::string& file, int line, const std::vector<std::string>& sentences) const;
