@@ -49,9 +49,9 @@ enum class EOrigin
 struct Origin
 {
     EOrigin kind = EOrigin::None;
-    int line = 0;     ///< the line of the document that gave the value; 0 when none did
-    std::string name; ///< the attribute or element that was looked for, or found under an older name
-    std::string text; ///< what stands in the attribute; empty for an element
+    int line = 0;       ///< the line of the document that gave the value; 0 when none did
+    std::string name;   ///< the attribute or element that was looked for, or found under an older name
+    std::string text{}; ///< what stands in the attribute; empty for an element
 
     bool isThere() const noexcept { return line != 0; }
 };
