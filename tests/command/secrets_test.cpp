@@ -149,15 +149,24 @@ TEST_P(Secrets, StandInNoOutputAndInNoRefusal)
     EXPECT_GT(refused, 20U);
 }
 
-TEST_P(Secrets, StandInNoRefusalOfNext)
+TEST_P(Secrets, StandInNoRefusalOfWhatAsksForASchedule)
 {
     const auto text = textOf(GetParam().pieces);
-    const auto noSchedule = runCommand({"next", "-"}, text);
-    EXPECT_EQ(noSchedule.exitCode, 3);
-    EXPECT_EQ(noSchedule.messages.find(Canary), std::string::npos) << noSchedule.messages;
-    const auto noWindow = runCommand({"next", "continuous.xml", "--window", "-"}, text);
-    EXPECT_EQ(noWindow.exitCode, 3);
-    EXPECT_EQ(noWindow.messages.find(Canary), std::string::npos) << noWindow.messages;
+    const std::vector<std::vector<std::string>> calls{
+        {"next", "-"},
+        {"next", "-", "--ical"},
+        {"calendar", "-"},
+        {"why", "-", "--at", "2026-03-02 08:00"},
+        {"next", "continuous.xml", "--window", "-"},
+        {"calendar", "continuous.xml", "--window", "-"},
+        {"why", "continuous.xml", "--window", "-", "--at", "2026-03-02 08:00"}};
+    for (const auto& call : calls)
+    {
+        const auto result = runCommand(call, text);
+        EXPECT_EQ(result.exitCode, 3) << testing::PrintToString(call);
+        EXPECT_EQ(result.output, "") << testing::PrintToString(call);
+        EXPECT_EQ(result.messages.find(Canary), std::string::npos) << result.messages;
+    }
 }
 
 /// Every secret differs, and the report of a conversion and the difference name the fields only.

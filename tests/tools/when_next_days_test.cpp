@@ -33,6 +33,8 @@ using zelplatform::model::structs::EScheduleWindowKind;
 using zelplatform::model::structs::EWeekDayNumber;
 using zelplatform::model::structs::ScheduleParser;
 
+using zelmodel_test::at;
+
 using Rows = std::vector<std::vector<std::string>>;
 
 CDate date(const std::string& text)
@@ -264,6 +266,61 @@ TEST(NextDays, APeriodicalJobWithoutAPeriodIsRefused)
     schedule.GetJobStartOptions().GetCalendar().ResetTime();
     EXPECT_EQ(zelmodel_test::failureText([&] { next(schedule, "2026-03-02", 1); }),
               "The schedule is periodical but has no period.");
+}
+
+/// The dates before the day, with their starts.
+std::vector<std::string> previous(const CScheduleOptions& schedule, const std::string& before, std::size_t count)
+{
+    const zelmodel_test::LocalZone zone("UTC");
+    const Evaluation evaluation(schedule, nullptr, date(before));
+    std::vector<std::string> rows;
+    rows.reserve(count);
+    for (const auto& day :
+         when::describeDays(evaluation, date(before), evaluation.daysBefore(date(before), count)).children)
+        rows.push_back(at(day, "date").words + ' ' + at(day, "start").words);
+    return rows;
+}
+
+using Days = std::vector<std::string>;
+
+TEST(PreviousDays, WithoutTheDayItself)
+{
+    CScheduleOptions schedule;
+    schedule.GetJobStartOptions().SetWeekly(22, 30, days("Mon,Fri"));
+    EXPECT_EQ(previous(schedule, "2026-03-06", 3), (Days{"2026-03-02 22:30", "2026-02-27 22:30", "2026-02-23 22:30"}));
+    schedule.GetJobStartOptions().Disable();
+    EXPECT_EQ(previous(schedule, "2026-03-06", 3), Days{});
+}
+
+TEST(PreviousDays, BeyondTheYearInWhichTheLibrarySearches)
+{
+    CScheduleOptions schedule;
+    schedule.GetJobStartOptions().SetMonthlyOnDay(6, 5, CDayOfMonth(29), CMonthMask::FromString("February", ','));
+    EXPECT_EQ(previous(schedule, "2028-02-29", 2), (Days{"2024-02-29 06:05", "2020-02-29 06:05"}));
+    // 1900 was no leap year.
+    EXPECT_EQ(previous(schedule, "1904-02-29", 1), (Days{"1896-02-29 06:05"}));
+    schedule.GetJobStartOptions().SetMonthlyOnDay(6, 5, CDayOfMonth(30), CMonthMask::FromString("February", ','));
+    EXPECT_EQ(previous(schedule, "2028-02-29", 2), Days{});
+}
+
+TEST(PreviousDays, OfAPeriodicalJobAreCountedBackwards)
+{
+    CScheduleOptions schedule;
+    schedule.GetJobStartOptions().SetPeriodically(6, 30);
+    EXPECT_EQ(previous(schedule, "2026-03-02", 2),
+              (Days{"2026-03-01 04:30 11:00 17:30", "2026-02-28 02:30 09:00 15:30 22:00"}));
+    schedule.GetJobStartOptions().SetPeriodically(24, 30);
+    const auto rows = previous(schedule, "2026-03-02", 49);
+    ASSERT_EQ(rows.size(), 49U);
+    EXPECT_EQ(rows.front(), "2026-02-28 23:30");
+}
+
+TEST(PreviousDays, BeginWithTheYear1400)
+{
+    CScheduleOptions schedule;
+    schedule.GetJobStartOptions().SetWeekly(1, 0, CWeekMask(true));
+    EXPECT_EQ(previous(schedule, "1400-01-03", 10), (Days{"1400-01-02 01:00", "1400-01-01 01:00"}));
+    EXPECT_EQ(previous(schedule, "1400-01-01", 10), Days{});
 }
 
 } // namespace

@@ -3,11 +3,11 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <utility>
 
 #include <zelmodel/structs/schedule/schedule_time.h>
 #include <zelplatform/exc/exc.h>
 
+#include "describe/terminal_text.h"
 #include "describe/words.h"
 
 namespace when
@@ -105,7 +105,7 @@ std::string nameOfZone()
 {
     const char* variable = std::getenv("TZ");
     if (variable != nullptr && *variable != '\0')
-        return std::string(*variable == ':' ? variable + 1 : variable) + " (TZ)";
+        return describe::printable(*variable == ':' ? variable + 1 : variable) + " (TZ)";
     return zoneOfMachine();
 }
 
@@ -114,6 +114,7 @@ std::string tellTimes(const std::vector<CDateTime>& times)
     if (times.size() > MostListedTimes)
         return describe::countOf(times.size(), "start");
     std::vector<std::string> words;
+    words.reserve(times.size());
     for (const auto& time : times)
         words.push_back(describe::clockTime(time));
     return describe::listOf(words);

@@ -136,15 +136,16 @@ std::string renderLegend(const std::vector<PlannedMonth>& months, const TextStyl
 }
 
 /// The days on which the clock is changed.
-std::string renderClocks(const std::vector<PlannedMonth>& months)
+std::string renderClocks(const std::vector<PlannedMonth>& months, const TextStyle& style)
 {
     std::string text;
     for (const auto& month : months)
     {
         for (const auto& day : month.days)
         {
+            const auto date = describe::isoDate(day.date) + ": ";
             if (!day.clock.empty())
-                text += describe::isoDate(day.date) + ": " + day.clock + '\n';
+                text += date + describe::broken(day.clock, date.size(), style) + '\n';
         }
     }
     return text;
@@ -158,7 +159,7 @@ std::string renderMonths(const std::vector<PlannedMonth>& months, const TextStyl
     std::string text;
     for (std::size_t from = 0; from < months.size(); from += beside)
         text += renderRow(months, from, std::min(months.size(), from + beside), style) + '\n';
-    return text + renderLegend(months, style) + renderClocks(months);
+    return text + renderLegend(months, style) + renderClocks(months, style);
 }
 
 } // namespace when
