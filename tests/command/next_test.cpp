@@ -126,6 +126,20 @@ TEST(NextUntil, NoDayInTheTime)
                                "15 day of months January, April, July, October at 06:05).\n");
 }
 
+TEST(NextPrevious, NoDayEver)
+{
+    const auto result =
+        runCommand({"next", "-", "--previous", "--from", "2026-03-02"},
+                   R"(<Schedule Version="3" IsEnabled="true" WeekDayNumber="Every" DayOfMonth="31" Type="1">
+<WeekMask Monday="1" Tuesday="1" Wednesday="1" Thursday="1" Friday="1" Saturday="1" Sunday="1"/>
+<MonthMask January="0" February="0" March="0" April="1" May="0" June="0" July="0" August="0" September="0" October="0"
+ November="0" December="0"/></Schedule>)");
+    EXPECT_EQ(result.exitCode, 5);
+    EXPECT_EQ(result.messages,
+              "standard input: Nothing is scheduled: no day came within 41 years before (Every 31 day of "
+              "months April, a day that never comes).\n");
+}
+
 TEST(NextUsage, EndsWithTwo)
 {
     const std::vector<std::string> calls[] = {

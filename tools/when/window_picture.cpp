@@ -40,6 +40,11 @@ constexpr Sign Closed{'.', "closed", "2"};
 constexpr Sign OpenStart{'*', "start in an open hour", "1;32"};
 constexpr Sign ClosedStart{'x', "start in a closed hour", "1;31"};
 
+std::size_t indexOf(EDayOfWeek::type day)
+{
+    return static_cast<std::size_t>(day);
+}
+
 /// The hours of the week in which the job starts.
 class StartHours
 {
@@ -51,12 +56,12 @@ public:
             for (const auto& day : month.days)
             {
                 for (const auto& start : day.starts)
-                    m_isStart.at(start.getDayOfWeek()).at(static_cast<std::size_t>(start.hour())) = true;
+                    m_isStart.at(indexOf(start.getDayOfWeek())).at(static_cast<std::size_t>(start.hour())) = true;
             }
         }
     }
 
-    bool has(EDayOfWeek::type day, std::size_t hour) const { return m_isStart.at(day).at(hour); }
+    bool has(EDayOfWeek::type day, std::size_t hour) const { return m_isStart.at(indexOf(day)).at(hour); }
 
 private:
     std::array<std::array<bool, HoursOfDay>, DaysFromMonday.size()> m_isStart{};
@@ -100,7 +105,7 @@ std::string renderWindow(const BackupWindow& window, const std::vector<PlannedMo
     auto text = renderScale(columns);
     for (const auto day : DaysFromMonday)
     {
-        text += EDayOfWeek::GetShortStrSet().at(day) + "  ";
+        text += EDayOfWeek::GetShortStrSet().at(indexOf(day)) + "  ";
         for (std::size_t hour = 0; hour < HoursOfDay; ++hour)
         {
             const bool isOpen = window.getMatrix()(day, static_cast<int>(hour)) == 1;

@@ -61,10 +61,10 @@ std::vector<when::StartDay> findDays(const when::Evaluation& evaluation, const A
 
 std::string tellNoDay(const Arguments& arguments)
 {
+    const auto within = " within " + std::to_string(when::Evaluation::YearsToSearch) + " years";
     if (arguments.isPrevious)
-        return "no day came within 41 years before";
-    return arguments.until ? "no day comes up to " + describe::isoDate(*arguments.until)
-                           : "no day comes within 41 years";
+        return "no day came" + within + " before";
+    return "no day comes" + (arguments.until ? " up to " + describe::isoDate(*arguments.until) : within);
 }
 
 int next(const Arguments& arguments, Session& session)
