@@ -73,7 +73,7 @@ TEST(LogFollow, ReadsTheOlderFilesFirst)
 TEST(LogFollow, SumsUpAtTheEnd)
 {
     const TemporaryFolder folder;
-    const auto name = folder.write("job.log", "no record\n" + Start + "one\n");
+    const auto name = folder.write("job.log", Start + "one\nno record\n");
     RunningCommand command({"log", name, "--follow", "--summary", "--check", "--skipped"});
     command.messagesWith("skipped: ");
     command.signal(SIGTERM);

@@ -19,16 +19,16 @@ using zelmodel_test::RunningCommand;
 using zelmodel_test::TemporaryFolder;
 
 constexpr std::size_t MiB = 1024UL * 1024;
-constexpr long MostGrowthKiB = 4096;
+constexpr long MostGrowthKiB = 8192;
 
-/// A MiB of lines: records of two sessions, and now and then a line that is none.
+/// A MiB of lines: records of two sessions, and one line that is none.
 std::string mebibyteOfLines()
 {
     std::string text;
     for (std::size_t i = 0; text.size() < MiB; ++i)
     {
         const auto second = std::to_string(10 + i % 50);
-        if (i % 1000 == 999)
+        if (i == 5000)
             text += "no record\n";
         text += "2024-03-07 13:05:" + second + " UTC 5f0c2b7a-91d4-4e38-8a66-0d3be1f7c29" + (i % 2 == 0 ? '5' : '6') +
                 " info Backing up /export/home/user" + std::to_string(i) + ": 3.2 GB read at 112 MB/s\n";

@@ -106,6 +106,7 @@ std::vector<std::string> oldestFirst(const std::vector<std::string>& names)
     std::stable_sort(placed.begin(), placed.end(),
                      [](const auto& a, const auto& b) { return a.set != b.set ? a.set < b.set : a.age > b.age; });
     std::vector<std::string> sorted;
+    sorted.reserve(placed.size());
     for (auto& file : placed)
         sorted.push_back(std::move(file.name));
     return sorted;
