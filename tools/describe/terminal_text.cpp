@@ -85,12 +85,18 @@ std::uint64_t unprintables(std::uint64_t bytes) noexcept
 
 bool isPrintableAscii(std::string_view text) noexcept
 {
+    constexpr std::size_t step = 8;
     std::uint64_t found = 0;
-    std::size_t at = 0;
-    for (; text.size() - at >= 8; at += 8)
+    if (text.size() < step)
+    {
+        for (const char c : text)
+            found |= unprintables(util::eachByte(static_cast<unsigned char>(c)));
+        return found == 0;
+    }
+    for (std::size_t at = 0; at + step <= text.size(); at += step)
         found |= unprintables(util::eightBytesAt(text.data() + at));
-    for (; at < text.size(); ++at)
-        found |= unprintables(util::eachByte(static_cast<unsigned char>(text[at])));
+    // The last eight once more, together with those that were left over.
+    found |= unprintables(util::eightBytesAt(text.data() + text.size() - step));
     return found == 0;
 }
 
