@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <memory>
-#include <utility>
 
 #include <zelplatform/exc/exc.h>
 
@@ -42,11 +41,7 @@ Attempt readDocument(const describe::Document& document)
 {
     Attempt attempt;
     const xmlpp::CLookupRecord record;
-    attempt.sentences = refusalOf([&] {
-        auto tree = document.describeFields();
-        attempt.ignored = document.listIgnored(record);
-        attempt.tree = std::move(tree);
-    });
+    attempt.sentences = refusalOf([&] { attempt.tree = document.describeFields(); });
     attempt.line = document.lastReadLine();
     attempt.lookups = record.GetLookups();
     return attempt;

@@ -18,7 +18,6 @@ struct Attempt
     std::vector<std::string> sentences;  ///< of the refusal, outermost first
     int line = 0;                        ///< of the refusal
     std::vector<xmlpp::SLookup> lookups; ///< what the reader asked for; up to the refusal
-    std::vector<describe::IgnoredPart> ignored;
 };
 
 /// Reads the document with its library's reader.

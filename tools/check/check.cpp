@@ -18,20 +18,29 @@ using zelplatform::model::structs::BackupWindow;
 
 constexpr int MostFaults = 64;
 
-const char* ruleOf(const Fault& fault)
+const char* ruleOf(const xmlpp::SLookup& lookup)
 {
-    if (fault.isFound)
+    if (lookup.isFound)
         return rule_id::RefusedValue;
-    return fault.kind == ELookup::Attribute ? rule_id::MissingAttribute : rule_id::MissingElement;
+    return lookup.kind == ELookup::Attribute ? rule_id::MissingAttribute : rule_id::MissingElement;
+}
+
+// Of a refusal that cannot be repaired.
+const char* ruleOf(const Attempt& attempt)
+{
+    if (attempt.lookups.empty())
+        return rule_id::UnknownDocument;
+    const auto& last = attempt.lookups.back();
+    return isNamed(last, attempt) ? ruleOf(last) : rule_id::RefusedValue;
 }
 
 // The library's last sentence names what is missing, but not whose value it refuses.
 std::string tellFault(const Fault& fault, const std::string& sentence)
 {
-    if (!fault.isFound)
+    if (!fault.lookup.isFound)
         return sentence;
-    if (fault.kind == ELookup::Attribute)
-        return fault.name + " of " + fault.owner + ": " + sentence;
+    if (fault.lookup.kind == ELookup::Attribute)
+        return fault.lookup.name + " of " + fault.owner + ": " + sentence;
     return fault.owner + ": " + sentence;
 }
 
@@ -65,7 +74,9 @@ private:
         const auto reading = readAll(document);
         if (!reading.tree)
             return;
-        const Subject subject{document, reading, m_window, m_repaired};
+        // What was missing was added by the repairs, and may be what a misspelled name was meant for.
+        m_missed.insert(m_missed.end(), reading.lookups.begin(), reading.lookups.end());
+        const Subject subject{document, reading, document.listIgnored(m_missed), m_window, m_repaired};
         checkNames(subject, m_findings);
         checkValues(subject, m_findings);
         checkCalendars(subject, m_findings);
@@ -83,8 +94,7 @@ private:
             const auto fault = faults < MostFaults ? repair.repair(attempt) : std::nullopt;
             if (!fault)
             {
-                const bool isUnknown = attempt.lookups.empty();
-                stop(isUnknown ? rule_id::UnknownDocument : rule_id::RefusedValue, attempt.line, attempt.sentences);
+                stop(ruleOf(attempt), attempt.line, attempt.sentences);
                 break;
             }
             take(*fault, attempt);
@@ -95,9 +105,12 @@ private:
 
     void take(const Fault& fault, const Attempt& attempt)
     {
-        m_repaired.insert({fault.line, fault.name});
+        m_repaired.insert({fault.line, fault.lookup.name});
+        if (!fault.lookup.isFound)
+            m_missed.push_back(fault.lookup);
         if (!fault.isConsequence)
-            m_findings.add(ruleOf(fault), fault.line, tellFault(fault, attempt.sentences.back()), attempt.sentences);
+            m_findings.add(ruleOf(fault.lookup), fault.line, tellFault(fault, attempt.sentences.back()),
+                           attempt.sentences);
     }
 
     void stop(const char* rule, int line, const std::vector<std::string>& sentences)
@@ -110,6 +123,7 @@ private:
     const BackupWindow* m_window;
     Findings& m_findings;
     std::set<std::pair<int, std::string>> m_repaired;
+    std::vector<xmlpp::SLookup> m_missed;
 };
 
 } // namespace

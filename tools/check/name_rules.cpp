@@ -19,7 +19,7 @@ const char* ruleOf(const IgnoredPart& part)
 
 void checkNames(const Subject& subject, Findings& findings)
 {
-    for (const auto& part : subject.reading.ignored)
+    for (const auto& part : subject.ignored)
     {
         const auto remedy = describe::tellRemedy(part);
         findings.add(ruleOf(part), part.line,

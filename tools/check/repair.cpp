@@ -24,10 +24,18 @@ bool isSameQuestion(const SLookup& a, const SLookup& b)
     return a.kind == b.kind && a.node.GetId() == b.node.GetId() && (a.kind == ELookup::Visit || a.name == b.name);
 }
 
-// A part that is missing is at fault when the refusal says so: readers ask for many parts that may be missing.
-bool isNamed(const SLookup& lookup, const Attempt& refused)
+bool endsWith(const std::string& text, const std::string& end)
 {
-    return refused.sentences.back().find(lookup.name) != std::string::npos;
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+// Refusals quote values in brackets of two kinds, or behind their last word.
+bool quotes(const std::vector<std::string>& sentences, const std::string& value)
+{
+    return std::any_of(sentences.begin(), sentences.end(), [&](const std::string& sentence) {
+        return sentence.find('[' + value + ']') != std::string::npos ||
+               sentence.find('(' + value + ')') != std::string::npos || endsWith(sentence, ' ' + value);
+    });
 }
 
 int lineOf(const SLookup& lookup)
@@ -44,16 +52,46 @@ int lineOf(const SLookup& lookup)
     return line;
 }
 
+// The sentences without the values in their brackets.
+std::string withoutValues(const std::vector<std::string>& sentences)
+{
+    std::string text;
+    bool isValue = false;
+    for (const auto& sentence : sentences)
+    {
+        for (const char c : sentence)
+        {
+            isValue = c == '[' || (isValue && c != ']');
+            if (!isValue)
+                text += c;
+        }
+    }
+    return text;
+}
+
+bool isOtherRefusal(const Attempt& attempt, const Attempt& refused, const std::string& value)
+{
+    return withoutValues(attempt.sentences) != withoutValues(refused.sentences) && !quotes(attempt.sentences, value);
+}
+
 } // namespace
 
-// The reader must go the same way as before, and come further.
-bool Repair::passes(const Attempt& refused)
+// A part that is missing is at fault when the refusal says so: readers ask for many parts that may be missing.
+bool isNamed(const SLookup& lookup, const Attempt& refused)
+{
+    return refused.sentences.back().find(lookup.name) != std::string::npos;
+}
+
+// The reader must go the same way as before, and come further. When it asks for nothing more after the last part and
+// still refuses, it must refuse something else than the value of that.
+bool Repair::passes(const Attempt& refused, const std::optional<std::string>& lastValue)
 {
     const auto attempt = readDocument(m_document);
     m_questions += attempt.lookups.size() + 1;
     const auto& before = refused.lookups;
     const auto& after = attempt.lookups;
-    const bool isFurther = attempt.tree || after.size() > before.size();
+    const bool isOther = lastValue && isOtherRefusal(attempt, refused, *lastValue);
+    const bool isFurther = attempt.tree || after.size() > before.size() || isOther;
     return isFurther && after.size() >= before.size() &&
            std::equal(before.begin(), before.end(), after.begin(), isSameQuestion);
 }
@@ -71,7 +109,7 @@ bool Repair::tryAttribute(CXmlNode node, const SLookup& lookup, const Attempt& r
             node.SetAttribute(lookup.name, *value);
         else
             node.RemoveAttribute(lookup.name);
-        if (passes(refused))
+        if (passes(refused, isLast ? value : std::nullopt))
             return true;
     }
     if (lookup.isFound)
@@ -81,7 +119,7 @@ bool Repair::tryAttribute(CXmlNode node, const SLookup& lookup, const Attempt& r
     return false;
 }
 
-bool Repair::tryText(CXmlNode node, const Attempt& refused)
+bool Repair::tryText(CXmlNode node, const Attempt& refused, bool isLast)
 {
     const auto before = node.GetInnerText();
     for (const auto& value : valuesToTry(node.GetName(), before))
@@ -89,7 +127,7 @@ bool Repair::tryText(CXmlNode node, const Attempt& refused)
         if (!value)
             continue;
         node.SetInnerText(*value);
-        if (passes(refused))
+        if (passes(refused, isLast ? value : std::nullopt))
             return true;
     }
     node.SetInnerText(before);
@@ -102,7 +140,7 @@ bool Repair::tryName(CXmlNode node, const Attempt& refused)
     for (const auto& name : namesToTry(before))
     {
         node.SetName(name);
-        if (passes(refused))
+        if (passes(refused, name))
             return true;
     }
     node.SetName(before);
@@ -115,7 +153,7 @@ bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
     switch (lookup.kind)
     {
     case ELookup::Attribute: return tryAttribute(node, lookup, refused, isLast);
-    case ELookup::Text: return tryText(node, refused);
+    case ELookup::Text: return tryText(node, refused, isLast);
     case ELookup::Visit: return isLast && tryName(node, refused);
     case ELookup::FirstChild: break;
     case ELookup::NamedChildren:
@@ -124,7 +162,7 @@ bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
     if (lookup.isFound || !isLast || !isNamed(lookup, refused))
         return false;
     node.AddNode(lookup.name);
-    return passes(refused);
+    return passes(refused, std::nullopt);
 }
 
 std::optional<Fault> Repair::repair(const Attempt& refused)
@@ -140,7 +178,7 @@ std::optional<Fault> Repair::repair(const Attempt& refused)
         if (tryPart(lookup, refused, i == last))
         {
             const bool isFirst = m_repaired.insert({lookup.node.GetId(), lookup.name}).second;
-            return Fault{lookup.kind, lookup.name, owner, line, lookup.isFound, !isFirst || line == 0};
+            return Fault{lookup, owner, line, !isFirst || line == 0};
         }
     }
     return std::nullopt;

@@ -17,13 +17,14 @@ namespace check
 /// Where the fault of a refusal lies.
 struct Fault
 {
-    xmlpp::ELookup kind;
-    std::string name;
-    std::string owner;
+    xmlpp::SLookup lookup; ///< the question of the reader for the part that is at fault
+    std::string owner;     ///< the element that was asked, under its first name
     int line;
-    bool isFound;
     bool isConsequence; ///< of an earlier repair: it lies in what that has added or changed
 };
+
+/// True when the refusal names what was looked for.
+bool isNamed(const xmlpp::SLookup& lookup, const Attempt& refused);
 
 /// Repairs a document in memory so that its reader comes further, fault by fault. The text behind it stays as it is.
 class Repair
@@ -39,9 +40,9 @@ public:
 private:
     bool tryPart(const xmlpp::SLookup& lookup, const Attempt& refused, bool isLast);
     bool tryAttribute(xmlpp::CXmlNode node, const xmlpp::SLookup& lookup, const Attempt& refused, bool isLast);
-    bool tryText(xmlpp::CXmlNode node, const Attempt& refused);
+    bool tryText(xmlpp::CXmlNode node, const Attempt& refused, bool isLast);
     bool tryName(xmlpp::CXmlNode node, const Attempt& refused);
-    bool passes(const Attempt& refused);
+    bool passes(const Attempt& refused, const std::optional<std::string>& lastValue);
 
     const describe::Document& m_document;
     std::set<std::pair<const void*, std::string>> m_repaired; ///< the element and the name

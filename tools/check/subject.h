@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/schedule_options.h>
@@ -19,6 +20,7 @@ struct Subject
 {
     const describe::Document& document;
     const Attempt& reading; ///< an accepted one
+    std::vector<describe::IgnoredPart> ignored;
     const zelplatform::model::structs::BackupWindow* window;
 
     /// Line and name of what was repaired: its value is not the document's any more.

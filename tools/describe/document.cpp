@@ -142,15 +142,15 @@ Node Document::describe() const
 {
     const xmlpp::CLookupRecord record;
     auto tree = describeFields();
-    const auto ignored = listIgnored(record);
+    const auto ignored = listIgnored(record.GetLookups());
     if (!ignored.empty())
         tree.children.push_back(describeIgnored(ignored));
     return tree;
 }
 
-std::vector<IgnoredPart> Document::listIgnored(const xmlpp::CLookupRecord& record) const
+std::vector<IgnoredPart> Document::listIgnored(const std::vector<xmlpp::SLookup>& lookups) const
 {
-    return findIgnored(enclosedElement().value_or(m_xml.ToNode()), record.GetLookups());
+    return findIgnored(enclosedElement().value_or(m_xml.ToNode()), lookups);
 }
 
 // The settings that other documents enclose: what stands around them is not for their reader.

@@ -35,8 +35,8 @@ public:
     /// The same without what the reader ignores. A record that lives meanwhile holds what the reader asked for.
     Node describeFields() const;
 
-    /// What the reader ignores, by the questions that describeFields recorded.
-    std::vector<IgnoredPart> listIgnored(const xmlpp::CLookupRecord& record) const;
+    /// What the reader ignores, by the questions that a record kept of describeFields.
+    std::vector<IgnoredPart> listIgnored(const std::vector<xmlpp::SLookup>& lookups) const;
 
     /// The schedule of job options or of a schedule; other kinds are refused.
     zelplatform::model::structs::CScheduleOptions readSchedule() const;
