@@ -41,6 +41,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "<ScheduleWindow Minutes='0' Kind='0'><Days>\n<Mon Intervals='00-01'/>\n<Freitag/></Days>"
                   "</ScheduleWindow>",
                   {"2 refused-value", "3 refused-value"}},
+        // The refusal does not say that it is the time.
+        CheckCase{"OlderScheduleWithoutTime",
+                  "<JobOptions>\n<Schedule Version='2' Type='2'/></JobOptions>",
+                  {"2 missing-attribute", "2 missing-attribute"}},
         // Setters of older layouts look at the time after everything else was read.
         CheckCase{"TimeThatASetterRefuses",
                   "<JobOptions>\n<Schedule Version='2' Type='2'>\n<Time Hours='25' Minutes='0'/></Schedule>"

@@ -201,6 +201,18 @@ TEST_P(Secrets, StandInNoReportOfAConversion)
     EXPECT_EQ(json.output.find(Canary), std::string::npos) << json.output;
 }
 
+TEST_P(Secrets, StandInNoFinding)
+{
+    constexpr const char* forms[] = {"--no-color", "--json", "--sarif"};
+    std::size_t count = 0;
+    for (const auto& text : variantsOf(GetParam().pieces))
+    {
+        const auto result = runCommand({"check", "-", forms[count++ % 3]}, text);
+        EXPECT_EQ(result.output.find(Canary), std::string::npos) << result.output;
+        EXPECT_EQ(result.messages.find(Canary), std::string::npos) << result.messages;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Documents, Secrets,
                          testing::Values(SecretCase{"objectStorage", objectStorage(), 6},
                                          SecretCase{"cloudContainer", cloudContainer(), 2}),

@@ -1,6 +1,7 @@
 #include "repair.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "accepted_values.h"
 
@@ -52,6 +53,14 @@ int lineOf(const SLookup& lookup)
     return line;
 }
 
+// Where the last question was asked for the first time.
+std::size_t firstAsked(const std::vector<SLookup>& lookups)
+{
+    const auto found = std::find_if(lookups.begin(), lookups.end(),
+                                    [&](const SLookup& lookup) { return isSameQuestion(lookup, lookups.back()); });
+    return static_cast<std::size_t>(found - lookups.begin());
+}
+
 // The sentences without the values in their brackets.
 std::string withoutValues(const std::vector<std::string>& sentences)
 {
@@ -82,8 +91,8 @@ bool isNamed(const SLookup& lookup, const Attempt& refused)
     return refused.sentences.back().find(lookup.name) != std::string::npos;
 }
 
-// The reader must go the same way as before, and come further. When it asks for nothing more after the last part and
-// still refuses, it must refuse something else than the value of that.
+// The reader must go the same way as before, and come further. After the part that was asked for last, its value may
+// lead another way; but when the reader still refuses, it must refuse something else than that value.
 bool Repair::passes(const Attempt& refused, const std::optional<std::string>& lastValue)
 {
     const auto attempt = readDocument(m_document);
@@ -92,13 +101,15 @@ bool Repair::passes(const Attempt& refused, const std::optional<std::string>& la
     const auto& after = attempt.lookups;
     const bool isOther = lastValue && isOtherRefusal(attempt, refused, *lastValue);
     const bool isFurther = attempt.tree || after.size() > before.size() || isOther;
-    return isFurther && after.size() >= before.size() &&
-           std::equal(before.begin(), before.end(), after.begin(), isSameQuestion);
+    const auto sameWay = lastValue ? firstAsked(before) + 1 : before.size();
+    return isFurther && after.size() >= sameWay &&
+           std::equal(before.begin(), before.begin() + static_cast<std::ptrdiff_t>(sameWay), after.begin(),
+                      isSameQuestion);
 }
 
 bool Repair::tryAttribute(CXmlNode node, const SLookup& lookup, const Attempt& refused, bool isLast)
 {
-    if (!lookup.isFound && !(isLast && isNamed(lookup, refused)))
+    if (!lookup.isFound && !isLast)
         return false;
     const std::string before(lookup.isFound ? node.GetAttribute(lookup.name) : "");
     for (const auto& value : valuesToTry(lookup.name, before))
@@ -149,6 +160,8 @@ bool Repair::tryName(CXmlNode node, const Attempt& refused)
 
 bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
 {
+    if (!lookup.isFound && !isNamed(lookup, refused))
+        return false;
     auto node = lookup.node;
     switch (lookup.kind)
     {
@@ -159,10 +172,16 @@ bool Repair::tryPart(const SLookup& lookup, const Attempt& refused, bool isLast)
     case ELookup::NamedChildren:
     case ELookup::AllChildren: return false;
     }
-    if (lookup.isFound || !isLast || !isNamed(lookup, refused))
+    if (lookup.isFound || !isLast)
         return false;
     node.AddNode(lookup.name);
     return passes(refused, std::nullopt);
+}
+
+Fault Repair::found(const SLookup& lookup, std::string owner, int line)
+{
+    const bool isFirst = m_repaired.insert({lookup.node.GetId(), lookup.name}).second;
+    return {lookup, std::move(owner), line, !isFirst || line == 0};
 }
 
 std::optional<Fault> Repair::repair(const Attempt& refused)
@@ -176,11 +195,15 @@ std::optional<Fault> Repair::repair(const Attempt& refused)
         const int line = lineOf(lookup);
         const auto owner = lookup.node.GetName();
         if (tryPart(lookup, refused, i == last))
-        {
-            const bool isFirst = m_repaired.insert({lookup.node.GetId(), lookup.name}).second;
-            return Fault{lookup, owner, line, !isFirst || line == 0};
-        }
+            return found(lookup, owner, line);
     }
+    // A few refusals do not say what is missing.
+    if (last == 0 || lookups.back().isFound || lookups.back().kind != ELookup::Attribute)
+        return std::nullopt;
+    const auto& lookup = lookups.back();
+    const int line = lineOf(lookup);
+    if (tryAttribute(lookup.node, lookup, refused, true))
+        return found(lookup, lookup.node.GetName(), line);
     return std::nullopt;
 }
 

@@ -42,6 +42,7 @@ private:
     bool tryAttribute(xmlpp::CXmlNode node, const xmlpp::SLookup& lookup, const Attempt& refused, bool isLast);
     bool tryText(xmlpp::CXmlNode node, const Attempt& refused, bool isLast);
     bool tryName(xmlpp::CXmlNode node, const Attempt& refused);
+    Fault found(const xmlpp::SLookup& lookup, std::string owner, int line);
     bool passes(const Attempt& refused, const std::optional<std::string>& lastValue);
 
     const describe::Document& m_document;
