@@ -12,7 +12,6 @@ function(zel_add_test_support)
     target_compile_definitions(test_support PUBLIC
         ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
         ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
-        ZELMODEL_FAULTS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/faults"
         ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -95,6 +96,22 @@ INSTANTIATE_TEST_SUITE_P(
                               1,
                               "always-open-window.xml:2: note: every hour of the week is open "
                               "[window-never-closes]\n"}));
+
+// What is refused by one command is refused by the other.
+TEST(Check, AgreesWithShowAboutEveryExample)
+{
+    std::size_t count = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(ZELMODEL_EXAMPLES_DIR))
+    {
+        if (entry.path().extension() != ".xml")
+            continue;
+        const auto file = entry.path().string();
+        const bool isRefused = runCommand({"check", file}).exitCode == 3;
+        EXPECT_EQ(isRefused, runCommand({"show", file}).exitCode == 3) << file;
+        ++count;
+    }
+    EXPECT_GT(count, 60U);
+}
 
 TEST(Check, ToldTheWindowThatIsClosedThen)
 {
