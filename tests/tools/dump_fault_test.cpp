@@ -183,6 +183,17 @@ INSTANTIATE_TEST_SUITE_P(
         FaultCase{"guid", 4, 'x', 0, "GUID", "Unable to convert string [xf9619ff-8b86-d011-b42d-00cf4fc964ff] to GUID.",
                   "At offset 0: \"GUID\"."}));
 
+TEST(DumpFault, ARefusedValueIsTellableToo)
+{
+    auto bytes = exampleBytes("key-set.b64");
+    bytes.at(1) = '\x41';
+    const auto told = dump::tell(bytes, dump::findForm("key-set"), true);
+    ASSERT_TRUE(told.refusal);
+    EXPECT_EQ(told.refusal->sentences.front(), "Key set id of [65] bytes is longer than [64].");
+    EXPECT_EQ(valueAt(told, "id").substr(0, 12), "736974652D62");
+    EXPECT_EQ(valueAt(told, "id").size(), 130U);
+}
+
 TEST(DumpFault, ClientIdsThatAreNone)
 {
     const auto* form = dump::findForm("cloud-client");

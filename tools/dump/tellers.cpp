@@ -84,7 +84,7 @@ void tellHexadecimal(std::string_view content, Node& node)
 
 void tellKeySetId(std::string_view content, Node& node)
 {
-    node.value = crypto::CKeySetId(content).ToLogString();
+    node.value = util::toupper(hexadecimal(content));
     node.words = describe::textOr(node.value, "none");
     if (!content.empty() && std::all_of(content.begin(), content.end(), isPrintable))
         node.words += " \"" + std::string(content) + '"';
