@@ -1,10 +1,12 @@
 #pragma once
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -20,6 +22,19 @@ inline std::string example(const std::string& name)
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
+}
+
+/// The XML documents among the examples that are accepted.
+inline std::vector<std::string> acceptedExamples()
+{
+    std::vector<std::string> paths;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(ZELMODEL_EXAMPLES_DIR))
+    {
+        const auto folder = entry.path().parent_path().filename();
+        if (entry.path().extension() == ".xml" && folder != "refused" && folder != "binary")
+            paths.push_back(entry.path().string());
+    }
+    return paths;
 }
 
 /// An example and everything that is shown of it.

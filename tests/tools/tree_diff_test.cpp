@@ -143,6 +143,15 @@ TEST(TreeDiff, WhatWasWorkedOutIsLeftOut)
     EXPECT_EQ(diffOf(first, group("root", "", {field("a", "1", "1")})), "");
 }
 
+/// A misspelled name means nothing to a reader, and so it makes no difference.
+TEST(TreeDiff, WhatReadersIgnoreIsLeftOut)
+{
+    const std::string known = "<BackupJobState Version='2' ObjectStorageOperationMode='3'";
+    const auto first = treeOf(known + " Colour='red' Size='1'/>");
+    EXPECT_EQ(diffOf(first, treeOf(known + "/>")), "");
+    EXPECT_EQ(diffOf(first, treeOf(known + " Colour='blue'><Extra/></BackupJobState>")), "");
+}
+
 TEST(TreeDiff, WhatAFormCannotCarryIsToldOnceAndNoDifference)
 {
     auto missing = group("g", "off", {field("a", "0", "none"), field("b", "0", "none")});

@@ -166,11 +166,13 @@ void Comparison::compare(const Node& a, const Node& b, const Path& path, std::ve
             notCarriedBySecond.push_back(a.label);
         return;
     }
+    if (isWorkedOut(a) || isWorkedOut(b))
+        return;
     // Where one side alone is a group, the words tell the whole of it, if it has any.
     const bool isWhole = isGroup(a) != isGroup(b) && tellAsWholes(a, b);
     if ((isGroup(a) || isGroup(b)) && !isWhole)
         return compareGroups(a, b, path, found);
-    if (isWhole || (!isWorkedOut(a) && !isWorkedOut(b) && !isSameValue(a, b)))
+    if (isWhole || !isSameValue(a, b))
         found.push_back({EDifference::Changed, path.names, path.labels, a, b, {}});
 }
 
