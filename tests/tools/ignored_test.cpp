@@ -70,8 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
         IgnoredCase{"<GfsPolicy IsEnabled='true'><GfsWeeklyPolicy IsEnabled='true' NumberOfWeeks='1' "
                     "BeginTimeUtc='' DesiredTime='1'/><Weekly/></GfsPolicy>",
                     {"1: element Weekly of GfsPolicy"}},
-        IgnoredCase{"<SqlVariant Type='1' Value='2' Values='3'/>",
-                    {"1: attribute Values of SqlVariant"}},
+        IgnoredCase{"<SqlVariant Type='1' Value='2' Values='3'/>", {"1: attribute Values of SqlVariant"}},
         // What stands around enclosed settings is not for their reader.
         IgnoredCase{"<Answer Code='0'>text<Other/><ImmutabilitySettings IsEnabled='true' IntervalDays='3'\n "
                     "Mode='1'/></Answer>",

@@ -31,11 +31,6 @@ struct Part
     std::string named(const std::string& words) const { return fields.label + ": " + words; }
 };
 
-bool hasDays(const CScheduleCalendar& calendar)
-{
-    return findDay(calendar, [](const datetime::CDateTime&) { return true; }).has_value();
-}
-
 void checkDayOfMonth(const Part& part, Findings& findings)
 {
     const auto& day = part.calendar.GetDayOfMonth();

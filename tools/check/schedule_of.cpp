@@ -23,4 +23,9 @@ bool isTiedToDays(const CScheduleCalendar& calendar)
     return calendar.IsScheduleWeekly() || calendar.IsScheduleMonthly();
 }
 
+bool hasDays(const CScheduleCalendar& calendar)
+{
+    return !isTiedToDays(calendar) || findDay(calendar, [](const datetime::CDateTime&) { return true; });
+}
+
 } // namespace check

@@ -44,4 +44,7 @@ std::optional<zelplatform::model::CDate> findDay(const zelplatform::model::struc
     return std::nullopt;
 }
 
+/// True when there is any day on which something happens; a calendar that is not tied to days has every day.
+bool hasDays(const zelplatform::model::structs::CScheduleCalendar& calendar);
+
 } // namespace check

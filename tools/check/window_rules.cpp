@@ -55,11 +55,6 @@ void checkWindowDocument(const Subject& subject, Findings& findings)
         findings.add(rule_id::WindowNeverCloses, line, "every hour of the week is open");
 }
 
-bool hasDays(const CScheduleCalendar& calendar)
-{
-    return !isTiedToDays(calendar) || findDay(calendar, [](const datetime::CDateTime&) { return true; });
-}
-
 } // namespace
 
 void checkWindow(const Subject& subject, Findings& findings)
