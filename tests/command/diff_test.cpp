@@ -265,13 +265,41 @@ TEST(DiffJson, HoldsBothSidesOfEachField)
             "value": "22:30",
             "words": "22:30",
             "line": 20,
-            "readFrom": "Hours"
+            "readFrom": "Hours",
+            "fields": {
+              "hours": {
+                "value": 22,
+                "words": "22",
+                "line": 20,
+                "readFrom": "Hours"
+              },
+              "minutes": {
+                "value": 30,
+                "words": "30",
+                "line": 20,
+                "readFrom": "Minutes"
+              }
+            }
           },
           "second": {
             "value": "22:45",
             "words": "22:45",
             "line": 20,
-            "readFrom": "Hours"
+            "readFrom": "Hours",
+            "fields": {
+              "hours": {
+                "value": 22,
+                "words": "22",
+                "line": 20,
+                "readFrom": "Hours"
+              },
+              "minutes": {
+                "value": 45,
+                "words": "45",
+                "line": 20,
+                "readFrom": "Minutes"
+              }
+            }
           }
         }
       ]

@@ -143,6 +143,19 @@ TEST(TreeDiff, WhatWasWorkedOutIsLeftOut)
     EXPECT_EQ(diffOf(first, group("root", "", {field("a", "1", "1")})), "");
 }
 
+/// The parts of a value are told by the value.
+TEST(TreeDiff, AFieldWithAValueIsComparedAsAWhole)
+{
+    auto first = group("time", "22:30", {detail("hours", "22"), detail("minutes", "30")});
+    auto second = group("time", "22:45", {detail("hours", "22"), detail("minutes", "45")});
+    first.value = "22:30";
+    second.value = "22:45";
+    EXPECT_EQ(diffOf(group("root", "", {first}), group("root", "", {second})), "/time 22:30->22:45\n");
+    EXPECT_EQ(diffOf(group("root", "", {first}), group("root", "", {field("time", "", "not set")})),
+              "/time 22:30->not set\n");
+    EXPECT_EQ(diffOf(group("root", "", {first}), group("root", "", {first})), "");
+}
+
 /// A misspelled name means nothing to a reader, and so it makes no difference.
 TEST(TreeDiff, WhatReadersIgnoreIsLeftOut)
 {

@@ -85,7 +85,8 @@ private:
                 continue;
             m_labels.push_back(child.label);
             note(before, child, *written);
-            compare(child, *written);
+            if (child.value.empty())
+                compare(child, *written);
             m_labels.pop_back();
         }
     }
@@ -93,7 +94,7 @@ private:
     // What a group and its fields were read from together is told once.
     void note(const Node& parent, const Node& before, const Node& after)
     {
-        const bool isField = before.children.empty() && after.children.empty();
+        const bool isField = before.children.empty() || !before.value.empty();
         if (isField && isDefault(before) && after.origin.isThere())
             ++m_conversion.writtenDefaults;
         if (isRenamed(before.origin, after.origin) && !isSamePlace(parent.origin, before.origin))

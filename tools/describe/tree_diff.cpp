@@ -27,9 +27,10 @@ struct Path
     }
 };
 
+// A field with a value and children tells the parts of its value in them.
 bool isGroup(const Node& node)
 {
-    return node.isList || !node.children.empty();
+    return node.isList || (!node.children.empty() && node.value.empty());
 }
 
 bool isSameValue(const Node& a, const Node& b)
