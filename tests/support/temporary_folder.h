@@ -1,11 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zelmodel_test
 {
@@ -30,6 +33,23 @@ public:
     std::string write(const std::string& name, std::string_view text) const { return put(name, text, std::ios::trunc); }
 
     std::string append(const std::string& name, std::string_view text) const { return put(name, text, std::ios::app); }
+
+    /// What a file in it holds.
+    std::string text(const std::string& name) const
+    {
+        std::ifstream file(*this / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    /// The names of all files in it, sorted.
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> all;
+        for (const auto& entry : std::filesystem::directory_iterator(m_path))
+            all.push_back(entry.path().filename().string());
+        std::sort(all.begin(), all.end());
+        return all;
+    }
 
 private:
     std::string put(const std::string& name, std::string_view text, std::ios::openmode mode) const

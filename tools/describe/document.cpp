@@ -63,7 +63,7 @@ void pointAtRuleOfWholeRecord(const xmlpp::CXmlNode& top)
     }
 }
 
-model::SBackupJobOptions readJobOptions(const xmlpp::CXmlNode& top)
+model::SBackupJobOptions readJobOptionsAt(const xmlpp::CXmlNode& top)
 {
     try
     {
@@ -80,7 +80,7 @@ Node describeJobOptions(const Source& source, bool isServerForm)
 {
     const auto* root = isServerForm ? job_names::JobOptionsRoot : job_names::JobOptions;
     const auto top = source.top();
-    return visitJobOptions(readJobOptions(top), source.topPlace().child(root), isServerForm);
+    return visitJobOptions(readJobOptionsAt(top), source.topPlace().child(root), isServerForm);
 }
 
 bool usesShortNames(const xmlpp::CXmlNode& policy)
@@ -89,12 +89,6 @@ bool usesShortNames(const xmlpp::CXmlNode& policy)
     return !policy.HasNode(gfs::SGfsWeeklyPolicyInfoTraits::LongElement) &&
            !policy.HasNode(gfs::SMonthlyGfsPolicyInfoTraits::LongElement) &&
            !policy.HasNode(gfs::SYearlyGfsPolicyInfoTraits::LongElement);
-}
-
-Node describeGfsPolicy(const Source& source)
-{
-    const bool isShortNames = usesShortNames(source.root());
-    return visitGfsPolicy(gfs::SGfsPolicyInfo::fromXml(source.top(), isShortNames), source.rootPlace(), isShortNames);
 }
 
 Node describeLimitations(const Source& source)
@@ -181,7 +175,12 @@ Node Document::describeFields() const
     case EDocumentKind::ScheduleOptions: return visitSchedule(readSchedule(), place);
     case EDocumentKind::LoneSchedule: return visitSchedule(readSchedule(), source.topPlace());
     case EDocumentKind::ScheduleWindow: return visitWindow(*readWindow(), place);
-    case EDocumentKind::GfsPolicy: return describeGfsPolicy(source);
+    case EDocumentKind::GfsPolicy:
+    {
+        bool isShortNames = true;
+        const auto policy = readGfsPolicy(isShortNames);
+        return visitGfsPolicy(policy, place, isShortNames);
+    }
     case EDocumentKind::OracleConfig:
         return visitOracleConfig(structs::SApplicationProcessingOracleConfig::FromXmlNode(root), place);
     case EDocumentKind::PostgresConfig:
@@ -209,11 +208,28 @@ Node Document::describeFields() const
     return visitGfsSyntheticFullTransform(*transform::CCreateGfsSyntheticFullSpec::FromXmlNode(root), place);
 }
 
+model::SBackupJobOptions Document::readJobOptions() const
+{
+    const auto found = kind();
+    if (!isOneOf(found, EDocumentKind::AgentJobOptions, EDocumentKind::ServerJobOptions))
+        throw exc::CRuntimeExc("The document is %1, not job options.", nameOf(found));
+    return readJobOptionsAt(m_xml.ToNode());
+}
+
+gfs::SGfsPolicyInfo Document::readGfsPolicy(bool& isShortNames) const
+{
+    const auto found = kind();
+    if (found != EDocumentKind::GfsPolicy)
+        throw exc::CRuntimeExc("The document is %1, not a GFS policy.", nameOf(found));
+    isShortNames = usesShortNames(m_xml.GetRootNode());
+    return gfs::SGfsPolicyInfo::fromXml(m_xml.ToNode(), isShortNames);
+}
+
 structs::CScheduleOptions Document::readSchedule() const
 {
     const auto found = kind();
     if (isOneOf(found, EDocumentKind::AgentJobOptions, EDocumentKind::ServerJobOptions))
-        return readJobOptions(m_xml.ToNode()).schedule;
+        return readJobOptions().schedule;
     if (found == EDocumentKind::ScheduleOptions)
         return structs::CScheduleOptions::FromXml(m_xml.GetRootNode());
     if (found == EDocumentKind::LoneSchedule)

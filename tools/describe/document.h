@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <zelmodel/backup_job_options.h>
+#include <zelmodel/structs/gfs/gfs_policy_info.h>
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/schedule_options.h>
 #include <zelplatform/xmlpp/lookup_record.h>
@@ -37,6 +39,12 @@ public:
 
     /// What the reader ignores, by the questions that a record kept of describeFields.
     std::vector<IgnoredPart> listIgnored(const std::vector<xmlpp::SLookup>& lookups) const;
+
+    /// Job options in either form; other kinds are refused.
+    zelplatform::model::SBackupJobOptions readJobOptions() const;
+
+    /// A GFS policy, and whether it uses the short names; other kinds are refused.
+    zelplatform::model::structs::gfs::SGfsPolicyInfo readGfsPolicy(bool& isShortNames) const;
 
     /// The schedule of job options or of a schedule; other kinds are refused.
     zelplatform::model::structs::CScheduleOptions readSchedule() const;

@@ -25,18 +25,6 @@ using zelplatform::model::structs::EWeekDayNumber;
 
 constexpr unsigned long LastOldScheduleVersion = 2;
 
-std::string tellType(EScheduleType::type type)
-{
-    switch (type)
-    {
-    case EScheduleType::Weekly: return "weekly";
-    case EScheduleType::Monthly: return "monthly";
-    case EScheduleType::Periodically: return "periodically";
-    case EScheduleType::Continuously: return "continuously";
-    }
-    return "of an unknown kind";
-}
-
 std::string tellDayOfMonth(const CDayOfMonth& day)
 {
     if (!day.IsSet())
@@ -101,7 +89,7 @@ void visitCalendar(const CScheduleCalendar& calendar, const Place& place, std::v
     const auto typeOrigin = !place.has(schedule_names::Type) && timeElement.has(schedule_names::Type)
                                 ? asOlder(timeElement.originOf(schedule_names::Type))
                                 : place.originOf(schedule_names::Type);
-    fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellType(type), typeOrigin));
+    fields.push_back(makeDetail("scheduleType", "Kind", util::toStr(type), tellScheduleType(type), typeOrigin));
     fields.push_back(visitTime(calendar, timeElement.isThere() ? timeElement : place));
     const auto& weekMask = calendar.GetWeekMask();
     fields.push_back(makeDetail("weekMask", "Week days", weekMask.ToString(",", false),
@@ -173,6 +161,18 @@ Node visitFull(const CFullBackupOptions& full, const char* name, const char* lab
 }
 
 } // namespace
+
+std::string tellScheduleType(EScheduleType::type type)
+{
+    switch (type)
+    {
+    case EScheduleType::Weekly: return "weekly";
+    case EScheduleType::Monthly: return "monthly";
+    case EScheduleType::Periodically: return "periodically";
+    case EScheduleType::Continuously: return "continuously";
+    }
+    return "of an unknown kind";
+}
 
 std::string tellCalendar(const CScheduleCalendar& calendar)
 try

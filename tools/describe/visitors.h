@@ -37,6 +37,9 @@ Node visitIndexing(const zelplatform::model::structs::SIndexingOptions& indexing
 /// A schedule; the place is the parent of "Schedule" and its companions.
 Node visitSchedule(const zelplatform::model::structs::CScheduleOptions& schedule, const Place& parent);
 
+/// "weekly", "monthly", "periodically" or "continuously"; "of an unknown kind" for any other number.
+std::string tellScheduleType(zelplatform::model::structs::EScheduleType::type type);
+
 /// A calendar in one sentence with the time of day as a clock shows it: "Every Monday, Friday at 22:30". Never throws
 /// for a calendar that a document can hold; what cannot be evaluated is said so.
 std::string tellCalendar(const zelplatform::model::structs::CScheduleCalendar& calendar);

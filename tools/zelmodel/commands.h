@@ -12,6 +12,8 @@ void addDiff(Dispatcher& commands);
 void addDump(Dispatcher& commands);
 void addExplain(Dispatcher& commands);
 void addLog(Dispatcher& commands);
+void addNew(Dispatcher& commands);
 void addNext(Dispatcher& commands);
+void addSet(Dispatcher& commands);
 void addShow(Dispatcher& commands);
 void addWhy(Dispatcher& commands);

@@ -10,6 +10,7 @@
 #include "commands.h"
 #include "describe/conversion.h"
 #include "describe/terminal_text.h"
+#include "document_output.h"
 #include "exit_code.h"
 #include "new_file.h"
 #include "replace_file.h"
@@ -35,15 +36,6 @@ using Written = ordered_json;
 bool isTerminal()
 {
     return ::isatty(STDOUT_FILENO) != 0;
-}
-
-// A terminal keeps what it showed, and acts on control characters.
-void printDocument(const Conversion& conversion)
-{
-    if (isTerminal())
-        std::cout << describe::printable(conversion.text.substr(0, conversion.text.size() - 1)) << '\n';
-    else
-        std::cout << conversion.text;
 }
 
 Written writeInPlace(const Arguments& arguments, const std::string& text, const Conversion& conversion)
@@ -109,8 +101,7 @@ int convert(const Arguments& arguments, Session& session)
         return exit_code::Fine;
     }
     if (arguments.isPrinted())
-        printDocument(conversion);
-    std::cout.flush();
+        printDocument(conversion.text.substr(0, conversion.text.size() - 1));
     std::cerr << describe::renderConversion(conversion, style);
     tellWritten(written);
     return exit_code::Fine;

@@ -26,7 +26,9 @@ void addCommands(Dispatcher& commands)
     addDump(commands);
     addExplain(commands);
     addLog(commands);
+    addNew(commands);
     addNext(commands);
+    addSet(commands);
     addShow(commands);
     addWhy(commands);
 }
