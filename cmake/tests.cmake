@@ -11,6 +11,7 @@ function(zel_add_test_support)
     target_include_directories(test_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/model)
     target_compile_definitions(test_support PUBLIC
         ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
+        ZELMODEL_FAULTS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/faults"
         ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
         ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
     # The tests themselves are not optimised: they are compiled far longer than they run.
