@@ -303,7 +303,8 @@ TEST(Explain, UnknownIdsAreABadCall)
 TEST(Explain, FitsTheTerminal)
 {
     const auto result = runCommandOnTerminal({"explain", "window-never-closes"}, 40, {"NO_COLOR"});
-    EXPECT_EQ(result.output, "window-never-closes: note, the window never closes\r\n"
+    EXPECT_EQ(result.output, "window-never-closes: note, the window\r\n"
+                             "never closes\r\n"
                              "  Cause  Every hour of the week is open:\r\n"
                              "         the backup window restricts\r\n"
                              "         nothing.\r\n"

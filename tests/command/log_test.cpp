@@ -48,22 +48,23 @@ TEST(LogSummary, HasARowForEachSession)
     EXPECT_EQ(result.messages, TwoSkipped);
 }
 
-TEST(LogSummary, IsATableOnAWideTerminalAndBlocksOnANarrowOne)
+TEST(LogSummary, TellsBelowTheRowWhatHasNoRoomInIt)
 {
     const auto wide = runCommandOnTerminal({"log", Nightly, "--summary", "--no-color"}, 200).output;
     EXPECT_NE(wide.find("00:34:03  1           2     1     1      error\r\n"), std::string::npos) << wide;
     const auto narrow = runCommandOnTerminal({"log", Nightly, "--summary", "--no-color"}, 40).output;
     EXPECT_NE(narrow.find("2 sessions with 8 records\r\n"
-                          "Session: 5f0c2b7a-91d4-4e38-8a66-0d3be1f7c295\r\n"
-                          "  First       2024-03-06 22:30:00 UTC\r\n"
-                          "  Last        2024-03-06 22:58:31 UTC\r\n"
-                          "  Duration    00:28:31\r\n"
-                          "  Processing  1\r\n"
-                          "  Info        2\r\n"
-                          "  Warn        0\r\n"
-                          "  Error       0\r\n"
-                          "  Worst       info\r\n"
-                          "Session: b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604\r\n"),
+                          "Session\r\n"
+                          "5f0c2b7a-91d4-4e38-8a66-0d3be1f7c295\r\n"
+                          "    First: 2024-03-06 22:30:00 UTC\r\n"
+                          "    Last: 2024-03-06 22:58:31 UTC\r\n"
+                          "    Duration: 00:28:31\r\n"
+                          "    Processing: 1\r\n"
+                          "    Info: 2\r\n"
+                          "    Warn: 0\r\n"
+                          "    Error: 0\r\n"
+                          "    Worst: info\r\n"
+                          "b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604\r\n"),
               std::string::npos)
         << narrow;
 }

@@ -41,9 +41,7 @@ TEST(Set, SeveralFieldsOfAJob)
                                "Script before freezing: /usr/local/sbin/share-quiesce -> none (line 6)\n"
                                "Product-specific text: none -> a=b (line 7)\n"
                                "Schedule / Start: starts Every day at 22:30 -> starts Every day at 23:15\n"
-                               "  Time of day: 22:30 -> 23:15\n"
-                               "    Hours: 22 -> 23 (line 20)\n"
-                               "    Minutes: 30 -> 15 (line 20)\n"
+                               "  Time of day: 22:30 -> 23:15 (line 20)\n"
                                "Not written: 1 comment\n");
     const auto again = runCommand({"set", "-", "maxDays=21", "schedule.jobStart.time=23:15"}, result.output);
     EXPECT_EQ(again.output, result.output);

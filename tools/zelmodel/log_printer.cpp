@@ -1,6 +1,5 @@
 #include "log_printer.h"
 
-#include <algorithm>
 #include <iostream>
 
 #include "describe/terminal_text.h"
@@ -76,19 +75,6 @@ public:
     void end() override { flush(); }
 };
 
-std::size_t longestLineOf(const std::string& text)
-{
-    std::size_t longest = 0;
-    for (std::size_t from = 0; from < text.size();)
-    {
-        const auto end = std::min(text.find('\n', from), text.size());
-        longest = std::max(longest, end - from);
-        from = end + 1;
-    }
-    return longest;
-}
-
-/// A table; where the terminal is too narrow for it, a block for each session.
 class SummaryPrinter : public TextPrinter
 {
 public:
@@ -96,23 +82,7 @@ public:
 
     void record(const std::string&, const logs::LogReader& reader) override { m_summary.add(reader.record()); }
 
-    void end() override
-    {
-        const auto& style = output().style();
-        auto tree = logs::describeSummary(m_summary);
-        const auto table = describe::renderTable(tree, style);
-        if (style.width == 0 || longestLineOf(table) <= style.width)
-        {
-            output().print(table);
-            return;
-        }
-        output().print(describe::printable(tree.words) + '\n');
-        for (auto& session : tree.children)
-        {
-            session.children.erase(session.children.begin());
-            output().print(describe::renderText(session, style));
-        }
-    }
+    void end() override { output().print(describe::renderTable(logs::describeSummary(m_summary), output().style())); }
 
 private:
     logs::Summary m_summary;
