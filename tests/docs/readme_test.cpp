@@ -17,12 +17,12 @@ using namespace zelmodel_test;
 
 TEST(Readme, TheCommandAnswersAsShown)
 {
-    EXPECT_EQ(zelmodel_test::expectAnswersAsShown("README.md"), 7U);
+    EXPECT_EQ(zelmodel_test::expectAnswersAsShown("README.md"), 4U);
 }
 
 TEST(CommandPage, TheCommandAnswersAsShown)
 {
-    EXPECT_GT(zelmodel_test::expectAnswersAsShown("docs/command.md"), 1U);
+    EXPECT_GT(zelmodel_test::expectAnswersAsShown("docs/command.md"), 30U);
 }
 
 TEST(Readme, ShowsTheFirstProgram)
