@@ -44,6 +44,24 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+// The temporary buffers of algorithms come from here. A sanitizer's own form would not know our blocks.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    try
+    {
+        return ::operator new(size);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return nullptr;
+    }
+}
+
+void operator delete(void* block, const std::nothrow_t&) noexcept
+{
+    giveBack(block);
+}
+
 void operator delete(void* block) noexcept
 {
     giveBack(block);
