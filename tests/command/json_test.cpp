@@ -87,6 +87,33 @@ TEST(Json, RefusalsAndFailuresToo)
 )");
 }
 
+TEST(Json, WrongCallsToo)
+{
+    const auto unknown = runCommand({"show", "--json", "--no-such-option", "gfs-policy.xml"});
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_EQ(unknown.messages, "");
+    EXPECT_EQ(unknown.output, R"({
+  "kind": "error",
+  "schema": 1,
+  "file": "",
+  "usage": "The following argument was not expected: --no-such-option"
+}
+)");
+    const std::vector<std::string> calls[] = {{"why", "gfs-policy.xml", "--json"},
+                                              {"next", "continuous.xml", "--json", "--ical"},
+                                              {"check", "continuous.xml", "--json", "--sarif"},
+                                              {"log", "a.log", "--json", "--json-lines"},
+                                              {"no-such-command", "--json"}};
+    for (const auto& call : calls)
+    {
+        const auto result = runCommand(call);
+        EXPECT_EQ(result.exitCode, 2) << testing::PrintToString(call);
+        EXPECT_EQ(result.messages, "");
+        EXPECT_EQ(json::parse(result.output)["kind"], "error");
+        EXPECT_NE(json::parse(result.output)["usage"], "");
+    }
+}
+
 TEST(Json, MalformedUtf8IsReplaced)
 {
     const auto result = runCommand({"show", "--json", "-"}, "<OracleConfig username=\"a\xff\xc3\"/>");

@@ -131,7 +131,6 @@ TEST(LogUsage, EndsWithTwo)
                                               {"log", "a.log", "--until", "2024-03-07 13:05:60"},
                                               {"log", "a.log", "--until", "2024-03-07 13"},
                                               {"log", "a.log", "--since", "2024-03-08", "--until", "2024-03-07"},
-                                              {"log", "a.log", "--json", "--json-lines"},
                                               {"log", "a.log", "--summary", "--json-lines"},
                                               {"log", "-", "-"},
                                               {"log", "-", "--follow"},

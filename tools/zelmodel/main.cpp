@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -33,12 +35,19 @@ void addCommands(Dispatcher& commands)
     addWhy(commands);
 }
 
-int tellUsage(const CLI::App& app, const CLI::ParseError& error)
+// A wrong call may have been refused before its options were taken.
+bool asksForJson(int argc, char** argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](std::string_view argument) { return argument == "--json"; });
+}
+
+int tellUsage(const CLI::App& app, const CLI::ParseError& error, bool isJson)
 {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
         return app.exit(error);
-    std::cerr << "zelmodel: " << describe::printable(describe::shortened(error.what(), LongestUsageError))
-              << "\nRun with --help for more information.\n";
+    OutputOptions options;
+    options.isJson = isJson;
+    Output(options).printUsageError(describe::shortened(error.what(), LongestUsageError));
     return exit_code::Usage;
 }
 
@@ -87,7 +96,7 @@ int run(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        return tellUsage(app, error);
+        return tellUsage(app, error, asksForJson(argc, argv));
     }
     Session session{Output(commands.outputOptions()), Reading()};
     return runCommand(commands, session);

@@ -105,3 +105,11 @@ void Output::printFailure(const std::string& file, const std::string& reason) co
     else
         std::cerr << printable(shownName(file)) << ": " << printable(reason) << '\n';
 }
+
+void Output::printUsageError(const std::string& reason) const
+{
+    if (m_isJson)
+        printJson("error", "", {{"usage", reason}});
+    else
+        std::cerr << "zelmodel: " << printable(reason) << "\nRun with --help for more information.\n";
+}

@@ -54,6 +54,9 @@ public:
     /// An input or output that failed; likewise.
     void printFailure(const std::string& file, const std::string& reason) const;
 
+    /// A call that was wrong; likewise, about no file.
+    void printUsageError(const std::string& reason) const;
+
 private:
     bool m_isJson;
     bool m_isPlain;
