@@ -6,7 +6,7 @@
 
 #include "commands.h"
 #include "log_run.h"
-#include "moment_option.h"
+#include "moment_range_option.h"
 
 namespace
 {
@@ -54,9 +54,9 @@ void addFilterOptions(CLI::App& command, Options& options)
             [&filter](const std::string& word) { filter.leastSeverity = ISessionLogWriter::SeverityFromString(word); },
             "Only records of this severity and worse ones")
         ->check(CLI::IsMember(severityWords()));
-    addMomentOption(command, "--since", options.since, "Only records of this moment (UTC) and later ones");
-    addMomentOption(command, "--until", options.until,
-                    "Only records up to the end of this day, minute or second (UTC)");
+    addMomentRangeOption(command, "--since", options.since, "Only records of this moment (UTC) and later ones");
+    addMomentRangeOption(command, "--until", options.until,
+                         "Only records up to the end of this day, minute or second (UTC)");
     command.add_option("--grep", filter.text, "Only records with this text in their line, letter case counts")
         ->type_name("TEXT");
 }

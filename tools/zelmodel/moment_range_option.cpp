@@ -1,4 +1,4 @@
-#include "moment_option.h"
+#include "moment_range_option.h"
 
 #include <string>
 #include <string_view>
@@ -41,7 +41,8 @@ catch (const std::exception&)
 
 } // namespace
 
-void addMomentOption(CLI::App& command, const char* name, std::optional<MomentRange>& target, const char* description)
+void addMomentRangeOption(CLI::App& command, const char* name, std::optional<MomentRange>& target,
+                          const char* description)
 {
     command
         .add_option_function<std::string>(

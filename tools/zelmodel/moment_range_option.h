@@ -13,4 +13,5 @@ struct MomentRange
 
 /// Adds an option that takes "YYYY-MM-DD[ HH:MM[:SS]]", in UTC and to the letter, and sets the target, which must
 /// outlive the parsing.
-void addMomentOption(CLI::App& command, const char* name, std::optional<MomentRange>& target, const char* description);
+void addMomentRangeOption(CLI::App& command, const char* name, std::optional<MomentRange>& target,
+                          const char* description);
