@@ -7,6 +7,7 @@ build_packages=(
     g++ cmake ninja-build libboost1.81-dev libtinyxml2-dev libssl-dev libspdlog-dev libmagicenum-dev
     libcli11-dev nlohmann-json3-dev zlib1g-dev libgtest-dev openssl tzdata)
 clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
+fuzz_packages=(clang libclang-rt-dev dpkg-dev)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.
 build() {
