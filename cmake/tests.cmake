@@ -16,6 +16,10 @@ function(zel_add_test_support)
         ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)
+    # Neither are they instrumented: it is the library and the tools that are watched, and what they do to the heap.
+    if(ZELMODEL_SANITIZE MATCHES address)
+        target_compile_options(test_support PUBLIC -fno-sanitize=all)
+    endif()
     target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog OpenSSL::Crypto
         tinyxml2::tinyxml2)
     target_precompile_headers(test_support PRIVATE <gtest/gtest.h>)

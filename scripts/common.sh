@@ -15,6 +15,8 @@ build() {
     shift
     mkdir -p build
     log=build/$preset.configure.log
+    # The packed parser is not instrumented.
+    [ "$preset" != asan ] || scripts/source_package tinyxml2 build/sources/tinyxml2
     cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
     local call=(cmake --build --preset "$preset")
     [ $# -eq 0 ] || call+=(--target "$@")
@@ -50,5 +52,5 @@ own_files() {
     for extension in "$@"; do
         names+=(-o -name "*.$extension")
     done
-    find include model platform tools tests bench -type f \( "${names[@]:1}" \) 2>/dev/null | sort
+    find include model platform tools tests bench fuzz -type f \( "${names[@]:1}" \) 2>/dev/null | sort
 }
