@@ -12,6 +12,9 @@ void watchAllocations() noexcept;
 std::size_t largestAllocation() noexcept;
 std::size_t allocatedInAll() noexcept;
 
+/// The most bytes that blocks took at one time since, above what they took then.
+std::size_t mostHeld() noexcept;
+
 /// The byte that secrets of a test are made of, and how many in a row make one.
 constexpr char SecretByte = '\xC7';
 constexpr std::size_t SecretRun = 32;

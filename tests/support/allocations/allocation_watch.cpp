@@ -1,5 +1,6 @@
 #include "allocation_watch.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -12,22 +13,30 @@ namespace
 std::atomic<std::size_t> largest{0};
 std::atomic<std::size_t> inAll{0};
 std::atomic<std::size_t> secrets{0};
+std::atomic<std::size_t> held{0};
+std::atomic<std::size_t> heldBefore{0};
+std::atomic<std::size_t> peak{0};
 
 bool holdsSecret(const char* bytes, std::size_t size) noexcept
 {
-    std::size_t run = 0;
-    for (std::size_t i = 0; i < size; ++i)
+    return std::search_n(bytes, bytes + size, zelmodel_test::SecretRun, zelmodel_test::SecretByte) != bytes + size;
+}
+
+void take(void* block) noexcept
+{
+    const auto now = held += ::malloc_usable_size(block);
+    for (auto most = peak.load(); most < now && !peak.compare_exchange_weak(most, now);)
     {
-        run = bytes[i] == zelmodel_test::SecretByte ? run + 1 : 0;
-        if (run == zelmodel_test::SecretRun)
-            return true;
     }
-    return false;
 }
 
 void giveBack(void* block) noexcept
 {
-    if (block != nullptr && holdsSecret(static_cast<const char*>(block), ::malloc_usable_size(block)))
+    if (block == nullptr)
+        return;
+    const auto size = ::malloc_usable_size(block);
+    held -= size;
+    if (holdsSecret(static_cast<const char*>(block), size))
         ++secrets;
     std::free(block);
 }
@@ -39,9 +48,11 @@ void* operator new(std::size_t size)
     if (size > largest)
         largest = size;
     inAll += size;
-    if (void* block = std::malloc(size == 0 ? 1 : size))
-        return block;
-    throw std::bad_alloc();
+    void* const block = std::malloc(size == 0 ? 1 : size);
+    if (block == nullptr)
+        throw std::bad_alloc();
+    take(block);
+    return block;
 }
 
 // The temporary buffers of algorithms come from here. A sanitizer's own form would not know our blocks.
@@ -80,6 +91,8 @@ void watchAllocations() noexcept
     largest = 0;
     inAll = 0;
     secrets = 0;
+    heldBefore = held.load();
+    peak = held.load();
 }
 
 std::size_t largestAllocation() noexcept
@@ -90,6 +103,11 @@ std::size_t largestAllocation() noexcept
 std::size_t allocatedInAll() noexcept
 {
     return inAll;
+}
+
+std::size_t mostHeld() noexcept
+{
+    return peak - heldBefore;
 }
 
 std::size_t secretsGivenBack() noexcept
