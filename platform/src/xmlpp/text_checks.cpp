@@ -164,9 +164,11 @@ Stretch stretchAt(std::string_view text, std::size_t at) noexcept
     return stretch;
 }
 
+// Looks no further than the end of the stretch: what stands behind it is looked at in its turn.
 TextFault findBadReferenceIn(std::string_view text, std::size_t begin, std::size_t end) noexcept
 {
-    for (auto at = text.find('&', begin); at < end; at = text.find('&', at + 1))
+    text = text.substr(0, end);
+    for (auto at = text.find('&', begin); at != std::string_view::npos; at = text.find('&', at + 1))
     {
         if (text.substr(at, 2) == "&#" && !isSoundReference(text.substr(at + 2)))
             return {"malformed reference or reference to a character that XML does not have", at};

@@ -94,11 +94,11 @@ void checkValue(CXmlName attribute, std::string_view value)
         throw exc::CRuntimeExc("The value of attribute [%1] has a character that XML cannot carry.", attribute.c_str());
 }
 
-// The element of the name from the node on, or any element without a name. The name is compared first: a comment or
-// text that reads like it is rare, and is told from an element then.
+// The element of the name from the node on, or any element without a name. A text is passed over before its value is
+// asked for, which would be worked out then.
 tinyxml2::XMLNode* nextElement(tinyxml2::XMLNode* from, const char* name)
 {
-    while (from != nullptr && !((name == nullptr || isNamed(from->Value(), name)) && from->ToElement() != nullptr))
+    while (from != nullptr && (from->ToElement() == nullptr || !(name == nullptr || isNamed(from->Value(), name))))
         from = from->NextSibling();
     return from;
 }

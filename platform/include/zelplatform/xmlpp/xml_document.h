@@ -16,9 +16,10 @@ public:
     /// The longest text that is read, in bytes.
     static constexpr std::size_t MaxTextSize = 256UL * 1024 * 1024;
 
-    /// The most attributes that one element of a text may have; looked at in texts of 16 KiB and more only, shorter
-    /// ones cannot hold enough to matter.
-    static constexpr unsigned MaxAttributes = 1024;
+    /// The most attributes that one element of a text may have: several times what documents have, and few enough that
+    /// a text full of such elements is read in bounded time. Looked at in texts of more than 16 KiB only, shorter ones
+    /// cannot hold enough to matter.
+    static constexpr unsigned MaxAttributes = 128;
 
     /// An empty document.
     CXmlDocument();
