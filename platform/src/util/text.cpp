@@ -22,6 +22,14 @@ std::string trimmed(std::string_view text, std::string_view characters)
     return std::string(text.substr(first, text.find_last_not_of(characters) - first + 1));
 }
 
+std::size_t countOf(std::string_view text, std::string_view part) noexcept
+{
+    std::size_t count = 0;
+    for (auto at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
+        ++count;
+    return count;
+}
+
 } // namespace
 
 std::string detail::formatText(std::string_view format, const std::string_view* arguments, std::size_t count)
@@ -73,6 +81,8 @@ std::vector<std::string> str_tokenize(std::string_view text, std::string_view se
     std::vector<std::string> parts;
     if (text.empty())
         return parts;
+    // A text of separators alone has as many parts as bytes: the list must not grow beyond them.
+    parts.reserve(countOf(text, separator) + 1);
     std::size_t start = 0;
     for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator, start))
     {
