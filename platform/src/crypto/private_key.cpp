@@ -1,5 +1,6 @@
 #include <zelplatform/crypto/private_key.h>
 
+#include <cstddef>
 #include <exception>
 #include <string_view>
 #include <utility>
@@ -10,11 +11,15 @@
 #include <crypto/pem_block.h>
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/base64.h>
+#include <zelplatform/util/numbers.h>
 
 namespace crypto::openssl
 {
 namespace
 {
+
+// Ten times the longest keys in use. What is no key is tried in every known form, each of which looks at all of it.
+constexpr std::size_t MaxBodySize = 64UL * 1024;
 
 constexpr std::string_view LabelEnd = "PRIVATE KEY";
 
@@ -42,6 +47,9 @@ try
     const auto block = findPemBlock(pem, isPrivateKey);
     if (isEncrypted(block))
         throw exc::CRuntimeExc("It is encrypted.");
+    if (block.body.size() > MaxBodySize)
+        throw exc::CRuntimeExc("Key of [%1] characters is longer than [%2].", util::toStr(block.body.size()),
+                               util::toStr(MaxBodySize));
     const auto der = util::fromBase64(block.body);
     const ErrorScope errors;
     const auto* end = reinterpret_cast<const unsigned char*>(der.data());
