@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <utility>
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
@@ -10,16 +11,6 @@ namespace zelplatform::model::detail
 {
 namespace
 {
-
-std::string_view takeUpTo(std::string_view& rest, char separator, const char* message)
-{
-    const auto at = rest.find(separator);
-    if (at == std::string_view::npos)
-        throw exc::CRuntimeExc(message);
-    const auto part = rest.substr(0, at);
-    rest.remove_prefix(at + 1);
-    return part;
-}
 
 /// The numbers of a time.
 struct Fields
@@ -32,17 +23,59 @@ struct Fields
     std::uint8_t seconds = 0;
 };
 
-Fields readFields(std::string_view rest)
+/// Takes a text apart; of several faults the first is kept.
+class FieldTexts
 {
-    const auto year = takeUpTo(rest, '-', "Wrong string format (year).");
-    const auto month = takeUpTo(rest, '-', "Wrong string format (month).");
-    const auto day = takeUpTo(rest, ' ', "Wrong string format (day).");
-    const auto hours = takeUpTo(rest, ':', "Wrong string format (hours).");
-    const auto minutes = takeUpTo(rest, ':', "Wrong string format (minutes).");
-    const auto seconds = rest.substr(0, rest.find(' '));
-    return {util::fromStr<std::uint16_t>(year),   util::fromStr<std::uint8_t>(month),
-            util::fromStr<std::uint8_t>(day),     util::fromStr<std::uint8_t>(hours),
-            util::fromStr<std::uint8_t>(minutes), util::fromStr<std::uint8_t>(seconds)};
+public:
+    FieldTexts(std::string_view rest, std::string& failure) noexcept : m_rest(rest), m_failure(failure) {}
+
+    std::string_view upTo(char separator, const char* message)
+    {
+        const auto at = m_rest.find(separator);
+        if (at == std::string_view::npos)
+            keep(message);
+        const auto part = m_rest.substr(0, at);
+        m_rest.remove_prefix(at == std::string_view::npos ? m_rest.size() : at + 1);
+        return part;
+    }
+
+    template <class T>
+    void number(std::string_view text, T& value)
+    {
+        if (m_failure.empty() && !util::tryFromStr(text, value))
+            keep(util::fromStrFailure<T>(text));
+    }
+
+    std::string_view rest() const noexcept { return m_rest; }
+
+private:
+    void keep(std::string failure)
+    {
+        if (m_failure.empty())
+            m_failure = std::move(failure);
+    }
+
+    std::string_view m_rest;
+    std::string& m_failure;
+};
+
+Fields readFields(std::string_view text, std::string& failure)
+{
+    FieldTexts texts(text, failure);
+    const auto year = texts.upTo('-', "Wrong string format (year).");
+    const auto month = texts.upTo('-', "Wrong string format (month).");
+    const auto day = texts.upTo(' ', "Wrong string format (day).");
+    const auto hours = texts.upTo(':', "Wrong string format (hours).");
+    const auto minutes = texts.upTo(':', "Wrong string format (minutes).");
+    const auto seconds = texts.rest().substr(0, texts.rest().find(' '));
+    Fields fields;
+    texts.number(year, fields.year);
+    texts.number(month, fields.month);
+    texts.number(day, fields.day);
+    texts.number(hours, fields.hours);
+    texts.number(minutes, fields.minutes);
+    texts.number(seconds, fields.seconds);
+    return fields;
 }
 
 Fields readWrittenFields(std::string_view text) noexcept
@@ -53,12 +86,17 @@ Fields readWrittenFields(std::string_view text) noexcept
     return {static_cast<std::uint16_t>(pair(0) * 100 + pair(2)), pair(5), pair(8), pair(11), pair(14), pair(17)};
 }
 
-CDateTimeEx makeTime(const Fields& fields)
+bool makeTime(const Fields& fields, CDateTimeEx& made, std::string& failure)
 {
+    failure = datetime::CDateTime::faultOf(fields.year, fields.month, fields.day, fields.hours, fields.minutes,
+                                           fields.seconds);
+    if (!failure.empty())
+        return false;
     datetime::CDateTime time(true);
     time.setDate(fields.year, fields.month, fields.day);
     time.setTime(fields.hours, fields.minutes, fields.seconds);
-    return CDateTimeEx::fromUtcTime(time);
+    made = CDateTimeEx::fromUtcTime(time);
+    return true;
 }
 
 /// Eight characters of the written form: what stands there, and by how much a character may differ from that.
@@ -101,24 +139,25 @@ bool startsWithWrittenLogTime(std::string_view line) noexcept
     return line.size() >= WrittenLogTimeSize && (misfits<0>(line) | misfits<1>(line) | misfits<2>(line)) == 0;
 }
 
-CDateTimeEx readWrittenLogTime(std::string_view line)
-try
+bool tryReadWrittenLogTime(std::string_view line, CDateTimeEx& time, std::string& failure)
 {
-    return makeTime(readWrittenFields(line));
+    return makeTime(readWrittenFields(line), time, failure);
 }
-catch (std::exception& cause)
+
+bool tryReadLogTime(std::string_view text, CDateTimeEx& time, std::string& failure)
 {
-    exc::RegenExc("Unable to convert time string to DateTime.", cause);
+    failure.clear();
+    const auto fields = readFields(text, failure);
+    return failure.empty() && makeTime(fields, time, failure);
 }
 
 CDateTimeEx readLogTime(std::string_view text)
-try
 {
-    return makeTime(readFields(text));
-}
-catch (std::exception& cause)
-{
-    exc::RegenExc("Unable to convert time string to DateTime.", cause);
+    CDateTimeEx time;
+    std::string failure;
+    if (!tryReadLogTime(text, time, failure))
+        exc::RegenExc(LogTimeContext, exc::CRuntimeExc(failure));
+    return time;
 }
 
 } // namespace zelplatform::model::detail

@@ -105,7 +105,15 @@ bool CSessionLogLineParser::Parse(const std::string& line, CDateTimeEx& time, gu
     }
     try
     {
-        time = parts.hasWrittenTime ? detail::readWrittenLogTime(line) : detail::readLogTime(parts.time);
+        std::string failure;
+        const bool isTime = parts.hasWrittenTime ? detail::tryReadWrittenLogTime(line, time, failure)
+                                                 : detail::tryReadLogTime(parts.time, time, failure);
+        if (!isTime)
+        {
+            zelmodel_log.err(exc::CRuntimeExc(std::string(detail::LogTimeContext) + " " + failure));
+            noteSkipped(line);
+            return false;
+        }
         id = guid::guid_t::FromAStr(parts.id);
         severity = ISessionLogWriter::SeverityFromString(trimmed(parts.severity));
         message = trimmed(parts.message);

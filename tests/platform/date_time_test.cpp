@@ -257,6 +257,37 @@ TEST(DateTime, FalseDatesAreTheCalendarsOwnError)
     }
 }
 
+TEST(DateTime, FaultsAreToldAsTheSettersRefuse)
+{
+    for (const int year : {-1, 0, 1399, 1400, 1900, 2000, 2023, 2024, 9999, 10000, 65536 + 2024, INT_MAX})
+    {
+        for (const int month : {-1, 0, 1, 2, 4, 12, 13, 255, 65537})
+        {
+            for (const int day : {-1, 0, 1, 28, 29, 30, 31, 32, 255, 65537})
+            {
+                for (const int clock : {-1, 0, 23, 24, 59, 60, 255})
+                {
+                    std::string expected;
+                    try
+                    {
+                        CDateTime time(true);
+                        time.setDate(year, month, day);
+                        time.setTime(clock, 59, clock);
+                    }
+                    catch (const std::exception& refusal)
+                    {
+                        expected = refusal.what();
+                    }
+                    ASSERT_EQ(expected, CDateTime::faultOf(year, month, day, clock, 59, clock))
+                        << year << " " << month << " " << day << " " << clock;
+                }
+            }
+        }
+    }
+    EXPECT_EQ("Minute [60] is out of range.", CDateTime::faultOf(2024, 2, 29, 0, 60, 60));
+    EXPECT_EQ("Month number is out of range 1..12", CDateTime::faultOf(2024, 13, 32, 24, 60, 60));
+}
+
 TEST(DateTime, EachSetterChecksTheResultingDate)
 {
     CDateTime january = day("2023-01-31");

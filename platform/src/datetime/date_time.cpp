@@ -46,10 +46,30 @@ unsigned short calendarField(int value) noexcept
                                                                            : static_cast<unsigned short>(value);
 }
 
-void checkClock(int value, int last, const char* message)
+std::string clockFieldFault(int value, int last, const char* message)
 {
-    if (value < 0 || value > last)
-        throw exc::CRuntimeExc(message, util::toStr(value));
+    return value < 0 || value > last ? util::str_format(message, util::toStr(value)) : std::string();
+}
+
+std::string clockFault(int hours, int minutes, int seconds)
+{
+    auto fault = clockFieldFault(hours, 23, "Hour [%1] is out of range.");
+    if (fault.empty())
+        fault = clockFieldFault(minutes, 59, "Minute [%1] is out of range.");
+    return fault.empty() ? clockFieldFault(seconds, 59, "Second [%1] is out of range.") : fault;
+}
+
+// In the calendar's own words.
+std::string calendarFault(int year, int month, int day)
+{
+    if (year < date::year_type::min() || year > date::year_type::max())
+        return boost::gregorian::bad_year().what();
+    if (month < 1 || month > 12)
+        return boost::gregorian::bad_month().what();
+    if (day < 1 || day > 31)
+        return boost::gregorian::bad_day_of_month().what();
+    const bool isThere = day <= gregorian_calendar::end_of_month_day(calendarField(year), calendarField(month));
+    return isThere ? std::string() : boost::gregorian::bad_day_of_month("Day of month is not valid for year").what();
 }
 
 } // namespace
@@ -77,16 +97,25 @@ long CDateTime::localUtcOffsetSecs()
 
 void CDateTime::setTime(int hours, int minutes, int seconds)
 {
-    checkClock(hours, 23, "Hour [%1] is out of range.");
-    checkClock(minutes, 59, "Minute [%1] is out of range.");
-    checkClock(seconds, 59, "Second [%1] is out of range.");
+    const auto fault = clockFault(hours, minutes, seconds);
+    if (!fault.empty())
+        throw exc::CRuntimeExc(fault);
     m_seconds = daysOf(m_seconds) * SecondsOfDay + hours * 3600L + minutes * 60L + seconds;
 }
 
 void CDateTime::setDate(int year, int month, int day)
 {
-    const date newDate(calendarField(year), calendarField(month), calendarField(day));
+    // One by one, so that of several false fields the first is told.
+    const boost::gregorian::greg_year newYear(calendarField(year));
+    const boost::gregorian::greg_month newMonth(calendarField(month));
+    const date newDate(newYear, newMonth, boost::gregorian::greg_day(calendarField(day)));
     m_seconds = (static_cast<long>(newDate.day_number()) - EpochDayNumber) * SecondsOfDay + timeOfDay(m_seconds);
+}
+
+std::string CDateTime::faultOf(int year, int month, int day, int hours, int minutes, int seconds)
+{
+    auto fault = calendarFault(year, month, day);
+    return fault.empty() ? clockFault(hours, minutes, seconds) : fault;
 }
 
 void CDateTime::setYear(int year)

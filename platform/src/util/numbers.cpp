@@ -51,9 +51,14 @@ bool detail::boolFromText(std::string_view text)
     failConversion(text, typeid(bool));
 }
 
+std::string detail::conversionFailure(std::string_view text, const std::type_info& type)
+{
+    return str_format("Unable to convert string [%1] to [%2].", std::string(text), readableName(type));
+}
+
 void detail::failConversion(std::string_view text, const std::type_info& type)
 {
-    throw exc::CRuntimeExc("Unable to convert string [%1] to [%2].", std::string(text), readableName(type));
+    throw exc::CRuntimeExc(conversionFailure(text, type));
 }
 
 std::string toStr(double value, int digits)

@@ -58,6 +58,10 @@ public:
     /// Sets the date, months counted from 1; throws the calendar's own error (a std::out_of_range) for a false date.
     void setDate(int year, int month, int day);
 
+    /// What setDate and setTime refuse such fields with, the date first; empty when neither does. For readers of texts
+    /// of which many may be none: an exception takes far longer than reading.
+    static std::string faultOf(int year, int month, int day, int hours, int minutes, int seconds);
+
     void setYear(int year);
     void setMonth(int month);
     void setDay(int day);

@@ -25,6 +25,7 @@ namespace detail
 ZELPLATFORM_API std::string decimalText(long value);
 ZELPLATFORM_API std::string decimalText(unsigned long value);
 ZELPLATFORM_API bool boolFromText(std::string_view text);
+ZELPLATFORM_API std::string conversionFailure(std::string_view text, const std::type_info& type);
 [[noreturn]] ZELPLATFORM_API void failConversion(std::string_view text, const std::type_info& type);
 
 } // namespace detail
@@ -75,12 +76,36 @@ std::string str(const T& value)
 ZELPLATFORM_API std::string str_from_double(double value, unsigned significant);
 
 /// The number that the whole text is: decimal digits, '-' for signed types only, within the range of the type; no
-/// blanks, no '+'. A double is in fixed notation and finite. A bool is "true" or "false" in any case, "1" or "0".
-/// Anything else throws.
+/// blanks, no '+'. A double is in fixed notation and finite. For any other text it is false, and the value is anything.
+template <class T>
+bool tryFromStr(std::string_view text, T& value)
+{
+    static_assert(std::is_arithmetic_v<T> && !std::is_same_v<T, bool> && sizeof(T) <= 8, "numbers only");
+    std::from_chars_result result{};
+    bool isFinite = true;
+    if constexpr (std::is_floating_point_v<T>)
+    {
+        result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+        isFinite = std::isfinite(value);
+    }
+    else
+    {
+        result = std::from_chars(text.data(), text.data() + text.size(), value);
+    }
+    return result.ec == std::errc() && result.ptr == text.data() + text.size() && isFinite;
+}
+
+/// What `fromStr` says of a text that is no value of the type.
+template <class T>
+std::string fromStrFailure(std::string_view text)
+{
+    return detail::conversionFailure(text, typeid(T));
+}
+
+/// The number as `tryFromStr` takes it. A bool is "true" or "false" in any case, "1" or "0". Anything else throws.
 template <class T>
 T fromStr(std::string_view text)
 {
-    static_assert(std::is_arithmetic_v<T> && sizeof(T) <= 8, "numbers only");
     if constexpr (std::is_same_v<T, bool>)
     {
         return detail::boolFromText(text);
@@ -88,18 +113,7 @@ T fromStr(std::string_view text)
     else
     {
         T value{};
-        std::from_chars_result result{};
-        bool isFinite = true;
-        if constexpr (std::is_floating_point_v<T>)
-        {
-            result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-            isFinite = std::isfinite(value);
-        }
-        else
-        {
-            result = std::from_chars(text.data(), text.data() + text.size(), value);
-        }
-        if (result.ec != std::errc() || result.ptr != text.data() + text.size() || !isFinite)
+        if (!tryFromStr(text, value))
             detail::failConversion(text, typeid(T));
         return value;
     }
