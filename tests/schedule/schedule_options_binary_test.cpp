@@ -1,4 +1,3 @@
-#include <chrono>
 #include <memory>
 #include <string>
 
@@ -8,6 +7,7 @@
 
 #include "schedule_options_device.h"
 #include "support/expect_failure.h"
+#include "support/expect_quick.h"
 #include "support/golden.h"
 #include "support/stream_failures.h"
 
@@ -132,16 +132,16 @@ TEST(CScheduleOptionsFailures, LyingLengthsAreNotBelieved)
 {
     for (const unsigned long length : {11UL, 65536UL, 1073741824UL, 4294967295UL})
     {
-        const auto start = std::chrono::steady_clock::now();
-        const std::string bytes = std::string(1, '\1') + fourBytes(0) + fourBytes(length) + "<Schedule ";
-        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(bytes); }));
-        CTextDevice unsized(bytes);
-        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(unsized); }));
-        EXPECT_LE(unsized.largestRead(), 65536UL);
-        CSizedTextDevice sized(bytes);
-        EXPECT_EQ(refusedRead(10, length), failureText([&] { read(sized); }));
-        EXPECT_LE(sized.largestRead(), 65536UL);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(15));
+        expectQuick([&] {
+            const std::string bytes = std::string(1, '\1') + fourBytes(0) + fourBytes(length) + "<Schedule ";
+            EXPECT_EQ(refusedRead(10, length), failureText([&] { read(bytes); }));
+            CTextDevice unsized(bytes);
+            EXPECT_EQ(refusedRead(10, length), failureText([&] { read(unsized); }));
+            EXPECT_LE(unsized.largestRead(), 65536UL);
+            CSizedTextDevice sized(bytes);
+            EXPECT_EQ(refusedRead(10, length), failureText([&] { read(sized); }));
+            EXPECT_LE(sized.largestRead(), 65536UL);
+        });
     }
 }
 
