@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <set>
 
+#include <support/expect_quick.h>
+
 #include "checked.h"
 
 namespace
@@ -87,6 +89,28 @@ TEST(Refusals, EndSomewhere)
     EXPECT_EQ(findings[63].line, 65);
     EXPECT_EQ(findings[64].line, 66);
     EXPECT_STREQ(findings[65].rule->id, check::rule_id::RestNotChecked);
+}
+
+// Each repair reads the whole document again: one of a million elements is not repaired to its end.
+TEST(Refusals, EndEarlierInALargeDocument)
+{
+    std::string text = "<JobOptions Compression='x'\nBlockSize='x'\nRetentionType='x'\nMaxPoints='x'\nMaxDays='x'\n"
+                       "IsDedupEnabled='x'\nIsSnapshotRequired='x'\nRetryCount='x'\nRetryTimeOutMs='x'\n"
+                       "SnapshotMode='x'\n>";
+    const auto countRefused = [](const std::vector<check::Finding>& findings) {
+        return std::count_if(findings.begin(), findings.end(), [](const check::Finding& finding) {
+            return finding.rule->id == std::string(check::rule_id::RefusedValue);
+        });
+    };
+    EXPECT_EQ(countRefused(check::checkText(text + "</JobOptions>")), 10);
+    for (int i = 0; i < 1000000; ++i)
+        text += "<a/>";
+    std::vector<check::Finding> findings;
+    zelmodel_test::expectQuick([&] { findings = check::checkText(text + "</JobOptions>"); });
+    EXPECT_GE(countRefused(findings), 1);
+    EXPECT_LT(countRefused(findings), 10);
+    ASSERT_FALSE(findings.empty());
+    EXPECT_STREQ(findings.back().rule->id, check::rule_id::RestNotChecked);
 }
 
 TEST(Rules, HaveUniqueIdsAndWordsAndCanBeFound)

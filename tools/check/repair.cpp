@@ -17,6 +17,9 @@ using xmlpp::SLookup;
 /// The most questions of readers that the repairs of one document may take: a second or so.
 constexpr std::size_t MostQuestions = 4UL * 1000 * 1000;
 
+/// So many elements of a document take as long as a question: a reader walks past them several times.
+constexpr std::size_t ElementsOfAQuestion = 4;
+
 /// How far a fault may lie before the last question: rules of whole records are looked at after their last part.
 constexpr std::size_t FarthestFault = 256;
 
@@ -78,6 +81,14 @@ std::string withoutValues(const std::vector<std::string>& sentences)
     return text;
 }
 
+std::size_t countElements(const CXmlNode& node)
+{
+    std::size_t count = 0;
+    for (const auto& child : node.GetChildNodes())
+        count += 1 + countElements(child);
+    return count;
+}
+
 bool isOtherRefusal(const Attempt& attempt, const Attempt& refused, const std::string& value)
 {
     return withoutValues(attempt.sentences) != withoutValues(refused.sentences) && !quotes(attempt.sentences, value);
@@ -91,12 +102,18 @@ bool isNamed(const SLookup& lookup, const Attempt& refused)
     return refused.sentences.back().find(lookup.name) != std::string::npos;
 }
 
+Repair::Repair(const describe::Document& document) : m_document(document)
+{
+    const xmlpp::CLookupPause pause;
+    m_walking = countElements(document.top()) / ElementsOfAQuestion;
+}
+
 // The reader must go the same way as before, and come further. After the part that was asked for last, its value may
 // lead another way; but when the reader still refuses, it must refuse something else than that value.
 bool Repair::passes(const Attempt& refused, const std::optional<std::string>& lastValue)
 {
     const auto attempt = readDocument(m_document);
-    m_questions += attempt.lookups.size() + 1;
+    m_questions += attempt.lookups.size() + m_walking + 1;
     const auto& before = refused.lookups;
     const auto& after = attempt.lookups;
     const bool isOther = lastValue && isOtherRefusal(attempt, refused, *lastValue);

@@ -30,7 +30,7 @@ bool isNamed(const xmlpp::SLookup& lookup, const Attempt& refused);
 class Repair
 {
 public:
-    explicit Repair(const describe::Document& document) : m_document(document) {}
+    explicit Repair(const describe::Document& document);
 
     /// Finds the fault behind a refusal by trying: the part that was asked for last, then those before it. Nothing when
     /// no change to any of them lets the reader pass, or when too much was tried already; the document is unchanged
@@ -47,6 +47,7 @@ private:
 
     const describe::Document& m_document;
     std::set<std::pair<const void*, std::string>> m_repaired; ///< the element and the name
+    std::size_t m_walking;                                    ///< through all elements once, in questions
     std::size_t m_questions = 0;                              ///< that the readers have asked so far
 };
 

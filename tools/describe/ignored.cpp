@@ -89,6 +89,8 @@ public:
 
     void visit(const CXmlNode& node)
     {
+        if (isFull())
+            return;
         const auto& asked = m_asked[node.GetId()];
         const auto owner = node.GetName();
         visitAttributes(node, asked, owner);
@@ -118,7 +120,7 @@ private:
     {
         for (const auto& attribute : node.GetAttributes())
         {
-            if (holds(asked.attributes, attribute.name) || isNamespace(attribute.name) ||
+            if (isFull() || holds(asked.attributes, attribute.name) || isNamespace(attribute.name) ||
                 isUnreadPart(EPart::Attribute, owner, attribute.name))
                 continue;
             const std::string name(attribute.name);
@@ -131,6 +133,8 @@ private:
         Names taken;
         for (const auto& child : node.GetChildNodes())
         {
+            if (isFull())
+                return;
             const auto name = child.GetName();
             const bool isFirst = holds(asked.firstChildren, name) && !holds(taken, name);
             // What a program hands to a reader was not asked of the node above it.
@@ -156,9 +160,12 @@ private:
 
     void keep(IgnoredPart part)
     {
-        if (m_parts.size() < MostIgnoredParts)
+        if (!isFull())
             m_parts.push_back(std::move(part));
     }
+
+    // No more parts are listed then: they need not be found, nor names that are near theirs.
+    bool isFull() const noexcept { return m_parts.size() == MostIgnoredParts; }
 
     std::unordered_map<const void*, Asked> m_asked;
     std::vector<IgnoredPart> m_parts;
