@@ -111,6 +111,17 @@ TEST(CScheduleOptionsValue, MovesTakeEverything)
     EXPECT_EQ(original.getBackupWindow(), assigned.getBackupWindow());
 }
 
+TEST(CScheduleOptionsValue, MovedOntoThemselvesTheyStayAsTheyWere)
+{
+    const CScheduleOptions original = everythingChanged();
+    CScheduleOptions options(original);
+    CScheduleOptions& same = options;
+    options = std::move(same);
+    EXPECT_TRUE(options == original);
+    EXPECT_TRUE(options.GetSyntheticFullOptions() == original.GetSyntheticFullOptions());
+    EXPECT_EQ(original.getBackupWindow(), options.getBackupWindow());
+}
+
 TEST(CScheduleOptionsValue, DefaultTurnsTheStartOnAndTheActiveFullOff)
 {
     CScheduleOptions options = everythingChanged();

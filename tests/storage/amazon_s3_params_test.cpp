@@ -1,4 +1,5 @@
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -55,30 +56,44 @@ TEST(AmazonS3Params, DefaultIsEmpty)
     EXPECT_EQ(0, params.credentials.lastUpdateTimeUtc.toUnixTime());
 }
 
+/// The record that a field belongs to.
+enum class EPart
+{
+    Endpoint,
+    Proxy, ///< of the endpoint
+    Credentials,
+};
+
 TEST(AmazonS3Params, EqualityComparesEveryField)
 {
-    void (*const changes[])(SAmazonS3SpecificParams&) = {
-        [](auto& params) { params.endpoint.apiEndpoint += "x"; },
-        [](auto& params) { params.endpoint.arnString += "x"; },
-        [](auto& params) { params.endpoint.fingerprint += "x"; },
-        [](auto& params) { params.endpoint.proxy.reset(); },
-        [](auto& params) { params.endpoint.proxy->endpoint += "x"; },
-        [](auto& params) { params.endpoint.proxy->login += "x"; },
-        [](auto& params) { params.endpoint.proxy->password += "x"; },
-        [](auto& params) { params.credentials.accessKeyId += "x"; },
-        [](auto& params) { params.credentials.secretAccessKey += "x"; },
-        [](auto& params) { params.credentials.sessionToken += "x"; },
-        [](auto& params) { params.credentials.roleName += "x"; },
-        [](auto& params) { params.credentials.metadataHost += "x"; },
-        [](auto& params) { params.credentials.lastUpdateTimeUtc = CDateTime(1, true); },
+    const std::pair<EPart, void (*)(SAmazonS3SpecificParams&)> changes[] = {
+        {EPart::Endpoint, [](auto& params) { params.endpoint.apiEndpoint += "x"; }},
+        {EPart::Endpoint, [](auto& params) { params.endpoint.arnString += "x"; }},
+        {EPart::Endpoint, [](auto& params) { params.endpoint.fingerprint += "x"; }},
+        {EPart::Endpoint, [](auto& params) { params.endpoint.proxy.reset(); }},
+        {EPart::Proxy, [](auto& params) { params.endpoint.proxy->endpoint += "x"; }},
+        {EPart::Proxy, [](auto& params) { params.endpoint.proxy->login += "x"; }},
+        {EPart::Proxy, [](auto& params) { params.endpoint.proxy->password += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.accessKeyId += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.secretAccessKey += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.sessionToken += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.roleName += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.metadataHost += "x"; }},
+        {EPart::Credentials, [](auto& params) { params.credentials.lastUpdateTimeUtc = CDateTime(1, true); }},
     };
-    EXPECT_TRUE(fullS3Params() == fullS3Params());
-    for (const auto change : changes)
+    const auto full = fullS3Params();
+    EXPECT_TRUE(fullS3Params() == full);
+    EXPECT_FALSE(fullS3Params() != full);
+    for (const auto& [part, change] : changes)
     {
-        auto params = fullS3Params();
+        auto params = full;
         change(params);
-        EXPECT_FALSE(params == fullS3Params());
-        EXPECT_TRUE(params != fullS3Params());
+        EXPECT_FALSE(params == full);
+        EXPECT_TRUE(params != full);
+        EXPECT_EQ(part != EPart::Credentials, params.endpoint != full.endpoint);
+        EXPECT_EQ(part == EPart::Credentials, params.credentials != full.credentials);
+        if (params.endpoint.proxy)
+            EXPECT_EQ(part == EPart::Proxy, *params.endpoint.proxy != *full.endpoint.proxy);
     }
 }
 
