@@ -98,7 +98,9 @@ try
     {
         const auto unit = std::find_if_not(at, text.end(), isDigit);
         const auto next = std::find_if(unit, text.end(), isDigit);
-        sum = addedUp(sum, util::fromStr<unsigned long>(std::string(at, unit)), unitOf(std::string(unit, next)));
+        // The unit is judged first, whatever order a compiler gives the arguments of one call.
+        const auto milliseconds = unitOf(std::string(unit, next));
+        sum = addedUp(sum, util::fromStr<unsigned long>(std::string(at, unit)), milliseconds);
         at = next;
     }
     return sum;
