@@ -35,6 +35,7 @@ double CSize::ToNBytes(EDataSizeUnit::type& unit) const
 {
     auto number = static_cast<double>(m_bytes);
     int steps = EDataSizeUnit::B;
+    // coverage: cannot be reached: 64 bits end at 16 EB
     while (number >= UnitFactor && steps < EDataSizeUnit::EB)
     {
         number *= OneUnitDown;
@@ -72,6 +73,7 @@ try
     const auto room = maxLength - std::min<std::size_t>(maxLength, unitText.size());
     if (number.size() > room)
         number.resize(room);
+    // coverage: cannot be reached: the platform writes numbers with a point in every locale
     if (!number.empty() && (number.back() == '.' || number.back() == ','))
         number.pop_back();
     return number + unitText;
