@@ -100,8 +100,8 @@ TEST(CalendarColours, AreAddedToTheMarks)
     EXPECT_EQ(plain.output.find('\x1b'), std::string::npos);
 }
 
-/// A schedule on the first of the month at 12:00 with fulls on other days.
-std::string monthlySchedule()
+/// A schedule on the first of the month at 12:00 with fulls on other days, or on those that are named.
+std::string monthlySchedule(int activeDay = 2, int syntheticDay = 3)
 {
     const std::string masks =
         R"(<WeekMask Monday="1" Tuesday="1" Wednesday="1" Thursday="1" Friday="1" Saturday="1" Sunday="1"/><MonthMask )"
@@ -109,9 +109,10 @@ std::string monthlySchedule()
         R"(November="1" December="1"/>)";
     return R"(<ScheduleOptions><Schedule Version="3" IsEnabled="1" WeekDayNumber="Every" DayOfMonth="1" Type="1">)" +
            masks + R"(<Time Hours="12" Minutes="0"/></Schedule><ActiveFullOptions Version="1" IsEnabled="1" )" +
-           R"(WeekDayNumber="Every" DayOfMonth="2" Type="1">)" + masks +
+           "WeekDayNumber=\"Every\" DayOfMonth=\"" + std::to_string(activeDay) + "\" Type=\"1\">" + masks +
            R"(</ActiveFullOptions><SyntheticFullOptions Version="1" IsEnabled="1" WeekDayNumber="Every" )" +
-           R"(DayOfMonth="3" Type="1">)" + masks + "</SyntheticFullOptions></ScheduleOptions>";
+           "DayOfMonth=\"" + std::to_string(syntheticDay) + "\" Type=\"1\">" + masks +
+           "</SyntheticFullOptions></ScheduleOptions>";
 }
 
 TEST(CalendarMarks, FullsWithoutAStartAndStartsInAClosedWindow)
@@ -126,6 +127,24 @@ TEST(CalendarMarks, FullsWithoutAStartAndStartsInAClosedWindow)
               std::string::npos);
     EXPECT_NE(result.output.find("\nx  start, but the window is closed\n"), std::string::npos);
     EXPECT_NE(result.output.find("\nx  start in a closed hour\n"), std::string::npos);
+}
+
+TEST(CalendarMarks, BothFullsOnOneDay)
+{
+    const struct
+    {
+        int day;
+        const char* week;
+        const char* meaning;
+    } rows[] = {{1, "\n 1B  2   3   4   5   6   7\n", "\nB  start that makes both fulls\n"},
+                {2, "\n 1*  2b  3   4   5   6   7\n", "\nb  day of both fulls, but no start\n"}};
+    for (const auto& row : rows)
+    {
+        const auto result = runCommand({"calendar", "-", "--month", "2026-06"}, monthlySchedule(row.day, row.day));
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_NE(result.output.find(row.week), std::string::npos) << result.output;
+        EXPECT_NE(result.output.find(row.meaning), std::string::npos) << result.output;
+    }
 }
 
 TEST(CalendarMarks, AMonthWithoutStarts)

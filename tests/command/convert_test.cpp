@@ -284,6 +284,21 @@ TEST(ConvertJson, HoldsTheDocumentAndWhatBecameOfTheOldOne)
 )");
 }
 
+TEST(ConvertJson, NamesWhatStandsAroundTheDocument)
+{
+    const auto result = runCommand({"convert", "immutability-enclosed.xml", "--json"});
+    EXPECT_NE(result.output.find(R"(
+  "enclosing": {
+    "part": "element",
+    "name": "RepositoryOptions",
+    "owner": "",
+    "line": 3
+  }
+)"),
+              std::string::npos)
+        << result.output;
+}
+
 TEST(ConvertJson, HidesADocumentWithSecrets)
 {
     const auto hidden = runCommand({"convert", "object-storage.xml", "--json"});

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "show_case.h"
 #include "support/run_command.h"
@@ -316,6 +317,42 @@ TEST(DiffJson, TellsThatNothingCanBeCompared)
     const auto result = runCommand({"diff", "object-storage.xml", "cloud-container.xml", "--json"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_NE(result.output.find("\"same\": false,\n  \"comparable\": false,"), std::string::npos) << result.output;
+}
+
+TEST(DiffJson, WhatOnlyOneHoldsHasNoOtherSide)
+{
+    const std::string point = "<Guid value=\"1f6c8a42-90d7-4e35-b3a8-62e5d4c7f019\"/>";
+    auto without = example("delete-points.xml");
+    without.erase(without.find(point), point.size());
+    const struct
+    {
+        std::string change;
+        std::string present;
+        std::string absent;
+        std::vector<std::string> call;
+    } rows[] = {{"onlyInFirst", "first", "second", {"diff", "delete-points.xml", "-", "--json"}},
+                {"onlyInSecond", "second", "first", {"diff", "-", "delete-points.xml", "--json"}}};
+    for (const auto& row : rows)
+    {
+        const auto result = runCommand(row.call, without);
+        EXPECT_EQ(result.exitCode, 1);
+        const auto json = nlohmann::json::parse(result.output);
+        const auto& points = json.at("differences").at(0);
+        EXPECT_EQ(points.at("change"), "changed");
+        ASSERT_EQ(points.at("fields").size(), 1U) << result.output;
+        const auto& difference = points.at("fields").at(0);
+        EXPECT_EQ(difference.at("change"), row.change);
+        EXPECT_EQ(difference.at(row.present).at("value"), "1f6c8a42-90d7-4e35-b3a8-62e5d4c7f019");
+        EXPECT_EQ(difference.count(row.absent), 0U);
+    }
+}
+
+TEST(DiffJson, NamesThePartThatBothHold)
+{
+    const auto result = runCommand({"diff", "immutability.xml", "direct-backup-immutability.xml", "--json"});
+    const auto json = nlohmann::json::parse(result.output);
+    EXPECT_EQ(json.at("comparable"), true);
+    EXPECT_EQ(json.at("sharedPart"), "immutability of backups");
 }
 
 TEST(DiffJson, ReplacesMalformedText)

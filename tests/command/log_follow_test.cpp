@@ -70,6 +70,16 @@ TEST(LogFollow, ReadsTheOlderFilesFirst)
     EXPECT_EQ(command.end().exitCode, 0);
 }
 
+TEST(LogFollow, InTheMiddleOfARotationTheFileInUseIsTheOneThatIsMissing)
+{
+    const TemporaryFolder folder;
+    folder.write("job.log.1", Start + "older\n");
+    const auto result = runCommand({"log", folder / "job.log", "--follow", "--rotated"});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_EQ(result.output, Start + "older\n");
+    EXPECT_EQ(result.messages, folder / "job.log" + ": cannot be read: No such file or directory\n");
+}
+
 TEST(LogFollow, SumsUpAtTheEnd)
 {
     const TemporaryFolder folder;

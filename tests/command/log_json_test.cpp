@@ -1,3 +1,5 @@
+#include <csignal>
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -5,13 +7,19 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "support/gzip_bytes.h"
 #include "support/run_command.h"
+#include "support/running_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
 
 using nlohmann::json;
+using zelmodel_test::gzipBytes;
 using zelmodel_test::runCommand;
+using zelmodel_test::RunningCommand;
+using zelmodel_test::TemporaryFolder;
 
 const std::string Start = "2024-03-07 13:05:09 UTC 5f0c2b7a-91d4-4e38-8a66-0d3be1f7c295 info ";
 
@@ -103,6 +111,52 @@ TEST(LogJsonLines, AreOneObjectForEachRecord)
                                           "told": 1, "empty": 1, "skipped": 2})"));
     EXPECT_EQ(objects[4], json::parse(R"({"kind": "error", "file": "missing.log",
                                           "failed": "cannot be read: No such file or directory"})"));
+}
+
+TEST(LogJsonLines, TellWhatBecomesOfAFollowedFile)
+{
+    const TemporaryFolder folder;
+    const auto name = folder.write("job.log", Start + "one, which is longer than what comes after it\n");
+    RunningCommand command({"log", name, "--follow", "--json-lines"});
+    command.outputWith("after it");
+    std::filesystem::resize_file(name, 0);
+    command.outputWith("truncated");
+    std::filesystem::rename(name, folder / "job.log.1");
+    folder.write("job.log", Start + "two\n");
+    command.outputWith("two");
+    command.signal(SIGTERM);
+    std::vector<json> changes;
+    for (const auto& object : jsonLines(command.end().output))
+    {
+        if (object["kind"] == "truncated" || object["kind"] == "replaced")
+            changes.push_back(object);
+    }
+    EXPECT_EQ(changes,
+              (std::vector<json>{{{"kind", "truncated"}, {"file", name}}, {{"kind", "replaced"}, {"file", name}}}));
+}
+
+TEST(LogJson, ARefusedFileStandsAmongTheErrors)
+{
+    const TemporaryFolder folder;
+    const auto whole = gzipBytes(Start + "one\n");
+    const auto cut = folder.write("cut.gz", whole.substr(0, whole.size() - 1));
+    const auto sentence = "The compressed data end too early, at byte " + std::to_string(whole.size() - 1) + ".";
+    const json error{{"file", cut}, {"refused", {sentence}}};
+
+    const auto result = runCommand({"log", cut, "--json"});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(json::parse(result.output)["errors"], json::array({error}));
+    // Two failures and nothing that was read: no file of the call is the one that failed.
+    const auto none = json::parse(runCommand({"log", "missing.log", "missing-too.log", "--json"}).output);
+    EXPECT_EQ(none["kind"], "log");
+    EXPECT_EQ(none["errors"].size(), 2U);
+    EXPECT_EQ(none["files"].size(), 0U);
+
+    const auto lines = jsonLines(runCommand({"log", cut, "--json-lines"}).output);
+    ASSERT_EQ(lines.size(), 3U);
+    json line = error;
+    line["kind"] = "error";
+    EXPECT_EQ(lines.back(), line);
 }
 
 TEST(LogJsonLines, MalformedTextIsReplaced)

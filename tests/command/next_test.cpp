@@ -221,6 +221,22 @@ TEST(NextIcal, AnEventForEachStart)
     EXPECT_EQ(output.find("\r\nEND:VCALENDAR\r\n"), output.size() - 17);
 }
 
+/// A calendar whose long lines are joined again.
+std::string unfolded(std::string text)
+{
+    for (auto at = text.find("\r\n "); at != std::string::npos; at = text.find("\r\n ", at))
+        text.erase(at, 3);
+    return text;
+}
+
+TEST(NextIcal, EventsTellTheWindow)
+{
+    const auto output = runCommand({"next", "nightly-file-server.xml", "--window", "periodical-window.xml", "--from",
+                                    "2024-03-01", "-n", "1", "--ical"})
+                            .output;
+    EXPECT_NE(unfolded(output).find("\\nwindow: open until 06:00 on Monday 2024-03-04"), std::string::npos) << output;
+}
+
 TEST(NextDefaults, TenDaysFromToday)
 {
     const auto result = runCommand({"next", "nightly-file-server.xml"});

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,33 @@ TEST(RotatedSet, TheFileInUseMayBeMissing)
     EXPECT_EQ(rotatedSetOf(folder / "other.log"), Names{folder / "other.log"});
 }
 
+/// In the middle of a rotation both are there; a folder lists its files in any order.
+TEST(RotatedSet, TheFileThatIsNotCompressedGoesFirst)
+{
+    const zelmodel_test::TemporaryFolder folder;
+    Names expected;
+    for (int age = 30; age > 0; --age)
+    {
+        const auto name = "job.log." + std::to_string(age);
+        folder.write(age % 2 == 0 ? name : name + ".gz", "");
+        folder.write(age % 2 == 0 ? name + ".gz" : name, "");
+        expected.push_back(folder / name);
+    }
+    EXPECT_EQ(rotatedSetOf(folder / "job.log"), expected);
+}
+
+TEST(RotatedSet, ANameWithoutAFolderMeansTheCurrentOne)
+{
+    const zelmodel_test::TemporaryFolder folder;
+    folder.write("job.log.1", "");
+    folder.write("job.log", "");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder / "");
+    const auto set = rotatedSetOf("job.log");
+    std::filesystem::current_path(before);
+    EXPECT_EQ(set, (Names{"job.log.1", "job.log"}));
+}
+
 TEST(RotatedSet, AFolderThatCannotBeReadIsAFailure)
 {
     EXPECT_THROW(rotatedSetOf("/no/such/folder/job.log"), files::InputError);
@@ -48,6 +76,8 @@ TEST(OldestFirst, SortsEachSetWhereItsFirstNameStands)
     // Names without a number keep the order in which they were given.
     EXPECT_EQ(oldestFirst({"job-20240307.gz", "job-20240306.gz"}), (Names{"job-20240307.gz", "job-20240306.gz"}));
     EXPECT_EQ(oldestFirst({}), Names{});
+    // Nothing but a number is a name of its own.
+    EXPECT_EQ(oldestFirst({"1", ".1", "2", ".2"}), (Names{"1", ".1", "2", ".2"}));
 }
 
 } // namespace

@@ -98,6 +98,7 @@ TEST(DateTimeText, FieldsThatTheFormatLacksStayAtTheEpoch)
     EXPECT_EQ("2024-01-01 00:00:00", text(CDateTime::fromString("2024", "%Y")));
     EXPECT_EQ("1970-01-01 05:06:00", text(CDateTime::fromString("5h06", "%Hh%M")));
     EXPECT_EQ("1970-01-01 00:00:00", text(CDateTime::fromString("", "")));
+    EXPECT_EQ("1970-01-06 00:00:00", text(CDateTime::fromString("6%", "%d%")));
     EXPECT_EQ("2024-02-29 00:00:00", text(CDateTime::fromString("29.02.2024", "%d.%m.%Y")));
     EXPECT_THROW((void)CDateTime::fromString("x", ""), exc::CRuntimeExc);
     EXPECT_THROW((void)CDateTime::fromString("", "%Y"), exc::CRuntimeExc);

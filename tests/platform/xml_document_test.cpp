@@ -33,6 +33,13 @@ TEST(XmlDocument, CompactWithoutDeclaration)
     EXPECT_EQ(document.Serialize(), root.SerializeDocument());
 }
 
+TEST(XmlDocument, WhatIsNoElementIsWrittenAsItWasRead)
+{
+    const char* const texts[] = {"<a><![CDATA[<b> & \"c\"]]></a>", "<!-- <b> & \"c\" --><a/>", "<a>b<!-- c -->d</a>"};
+    for (const auto* text : texts)
+        EXPECT_EQ(text, CXmlDocument::Unserialize(text).Serialize());
+}
+
 TEST(XmlDocument, DeclarationOnDemand)
 {
     CXmlDocument document;

@@ -53,6 +53,7 @@ TEST(XmlNode, KnowsTheLineOfItsText)
     EXPECT_EQ(0, rootOf("<a> <b>text</b>\n </a>").GetTextLine());
     EXPECT_EQ(1, rootOf("<a>text</a>").GetTextLine());
     EXPECT_EQ(2, rootOf("<a> <b/>\n<![CDATA[text]]></a>").GetTextLine());
+    EXPECT_EQ(2, rootOf("<a><![CDATA[ ]]><b/>\n<![CDATA[text]]></a>").GetTextLine());
 }
 
 TEST(XmlNode, IsToldApartById)

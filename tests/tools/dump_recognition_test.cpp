@@ -43,6 +43,19 @@ TEST(DumpRecognition, TakesEachExampleForItsForm)
     }
 }
 
+/// All digits of base64, those of the high values included.
+TEST(DumpRecognition, TakesEveryDigitOfBase64)
+{
+    const auto bytes = text("\xfb\xff\xbf>>>???~~~");
+    const auto encoded = base64Of(bytes);
+    ASSERT_NE(encoded.find('+'), std::string::npos) << encoded;
+    ASSERT_NE(encoded.find('/'), std::string::npos) << encoded;
+    const auto decoded = dump::tell(encoded, dump::findForm("text"), true);
+    EXPECT_TRUE(decoded.isBase64);
+    EXPECT_EQ(decoded.size, bytes.size());
+    EXPECT_FALSE(decoded.refusal);
+}
+
 TEST(DumpRecognition, TakesALoneTextForOneOnlyWhenItIsNamed)
 {
     const auto bytes = exampleBytes("text.b64");

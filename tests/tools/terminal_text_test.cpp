@@ -33,8 +33,14 @@ TEST(Printable, EscapesWhatActsOnTerminals)
         PrintableCase{"Caf\xc3\xa9 \xe2\x82\xac \xf0\x9f\x98\x80", "Caf\xc3\xa9 \xe2\x82\xac \xf0\x9f\x98\x80"},
         // Turned writing direction, line separator.
         PrintableCase{"\xe2\x80\xaetxt", "\\u202etxt"}, PrintableCase{"\xe2\x80\xa8", "\\u2028"},
+        // The other marks that turn it, and the codes beside them; the paragraph separator.
+        PrintableCase{"\xd8\x9c", "\\u061c"}, PrintableCase{"\xe2\x80\x8e\xe2\x80\x8f", "\\u200e\\u200f"},
+        PrintableCase{"\xe2\x81\xa6\xe2\x81\xa9", "\\u2066\\u2069"},
+        PrintableCase{"\xd8\x9b\xe2\x80\x90\xe2\x81\xaa", "\xd8\x9b\xe2\x80\x90\xe2\x81\xaa"},
+        PrintableCase{"\xe2\x80\xa9", "\\u2029"},
         // Overlong, surrogate, beyond the last code, cut short.
-        PrintableCase{"\xc0\xaf", "\\xc0\\xaf"}, PrintableCase{"\xed\xa0\x80", "\\xed\\xa0\\x80"},
+        PrintableCase{"\xc0\xaf", "\\xc0\\xaf"}, PrintableCase{"\xe0\x80\xaf", "\\xe0\\x80\\xaf"},
+        PrintableCase{"\xf0\x80\x80\xaf", "\\xf0\\x80\\x80\\xaf"}, PrintableCase{"\xed\xa0\x80", "\\xed\\xa0\\x80"},
         PrintableCase{"\xf4\x90\x80\x80", "\\xf4\\x90\\x80\\x80"}, PrintableCase{"\xe2\x82", "\\xe2\\x82"},
         PrintableCase{"\xff", "\\xff"}};
     for (const auto& expected : cases)
@@ -86,6 +92,12 @@ TEST(Shortened, CutsNoCharacter)
     for (int i = 0; i < 20; ++i)
         text += "\xc3\xa9";
     EXPECT_EQ(shortened(text, 16), "12345678901 ... (36 bytes left out) ... \xc3\xa9\xc3\xa9");
+    EXPECT_EQ(shortened(text + 'x', 16), "12345678901 ... (38 bytes left out) ... \xc3\xa9x");
+}
+
+TEST(Shortened, BytesThatBeginNoCharacterAreAllLeftOut)
+{
+    EXPECT_EQ(shortened(std::string(100, '\x80'), 16), " ... (100 bytes left out) ... ");
 }
 
 } // namespace
