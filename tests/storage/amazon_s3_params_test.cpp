@@ -93,7 +93,9 @@ TEST(AmazonS3Params, EqualityComparesEveryField)
         EXPECT_EQ(part != EPart::Credentials, params.endpoint != full.endpoint);
         EXPECT_EQ(part == EPart::Credentials, params.credentials != full.credentials);
         if (params.endpoint.proxy)
+        {
             EXPECT_EQ(part == EPart::Proxy, *params.endpoint.proxy != *full.endpoint.proxy);
+        }
     }
 }
 
