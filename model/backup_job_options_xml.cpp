@@ -4,6 +4,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/job_names.h"
 #include "detail/optional_attribute.h"
@@ -68,6 +69,7 @@ try
                  productField] = *this;
     checkMaxPoints(*this);
     auto owner = parent;
+    const xmlpp::CXmlUndo undo(owner);
     auto node = owner.AddNode(names::JobOptions);
     node.SetUint64Attribute(names::Version, s_version);
     node.SetAttribute(names::Compression, BackupJobCompression::toStr(compressionField));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <zelplatform/xmlpp/xml_node.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 namespace zelplatform::model::detail
 {
@@ -29,6 +30,7 @@ template <std::size_t N>
 void writeFlags(xmlpp::CXmlNode& parent, const char* element, const std::array<FlagAttribute, N>& attributes,
                 const std::vector<bool>& mask)
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(element);
     for (const auto& attribute : attributes)
         node.SetBoolAttribute(attribute.name, mask.at(attribute.index));

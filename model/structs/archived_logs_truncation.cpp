@@ -2,6 +2,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/application_names.h"
 #include "detail/enum_rows.h"
@@ -62,6 +63,8 @@ void SOracleArchivedLogsTruncationConfig::Validate() const
 
 void SOracleArchivedLogsTruncationConfig::ToXml(xmlpp::CXmlNode& node) const
 {
+    static constexpr const char* attributes[] = {names::Mode, names::SizeGB, names::LifetimeHours};
+    const xmlpp::CXmlUndo undo(node, attributes);
     node.SetAttribute(names::Mode, EArchivedLogsTruncationMode::ToString(mode));
     node.SetUint64Attribute(names::SizeGB, sizeGB);
     node.SetUint64Attribute(names::LifetimeHours, lifetimeHours);

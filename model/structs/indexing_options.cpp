@@ -2,6 +2,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/enum_rows.h"
 #include "detail/job_names.h"
@@ -85,6 +86,8 @@ try
     if (type == EIndexingType::IsOff)
         return;
     const auto typeName = EIndexingType::ToStr(type);
+    static constexpr const char* attributes[] = {names::IndexAll, names::IndexOnly, names::IndexExcept};
+    const xmlpp::CXmlUndo undo(owner, attributes);
     writeLegacyAttribute(owner, *this);
     auto node = owner.AddNode(names::Indexing);
     node.SetUint64Attribute(names::Version, s_version);

@@ -1,8 +1,6 @@
-#include <optional>
-
 #include <proofs/every_reader.h>
 
-#include "failing_new.h"
+#include "tries.h"
 
 namespace zelmodel_test
 {
@@ -17,26 +15,19 @@ struct Try
 {
     Outcome outcome;
     long leaked = 0;
-    bool hasFailed = false;
-    std::size_t asked = 0;
+    Tried tried;
 };
 
-Try tryWith(const Reader& reader, const std::string& input, EFailure failure, std::size_t number)
+Try tryReader(const Reader& reader, const std::string& input, EFailure failure, std::size_t number)
 {
     Try result;
-    const auto before = livingBlocks();
-    std::optional<Outcome> outcome;
-    {
-        const FailingNew failing(failure, number);
-        outcome = attempt(reader, input);
-        result.asked = FailingNew::asked();
-        result.hasFailed = FailingNew::hasFailed();
-    }
-    const auto kept = livingBlocks();
-    result.outcome = *outcome;
-    const auto copied = livingBlocks() - kept;
-    outcome.reset();
-    result.leaked = livingBlocks() - copied - before;
+    long copied = 0;
+    const auto left = blocksLeftBy([&] {
+        Outcome outcome;
+        result.tried = tryWith(failure, number, [&] { outcome = attempt(reader, input); });
+        copied = blocksLeftBy([&] { result.outcome = outcome; });
+    });
+    result.leaked = left - copied;
     return result;
 }
 
@@ -61,13 +52,13 @@ protected:
             // What is built once, at the first use, stays, for failures too.
             attempt(reader(), sample);
             attempt(reader(), "?");
-            const auto expected = tryWith(reader(), sample, EFailure::None, 0);
+            const auto expected = tryReader(reader(), sample, EFailure::None, 0);
             ASSERT_TRUE(expected.outcome.written);
             ASSERT_EQ(0, expected.leaked);
-            for (std::size_t number = 0; number < expected.asked; ++number)
+            for (std::size_t number = 0; number < expected.tried.asked; ++number)
             {
-                const auto result = tryWith(reader(), sample, failure, number);
-                ASSERT_TRUE(result.hasFailed) << number;
+                const auto result = tryReader(reader(), sample, failure, number);
+                ASSERT_TRUE(result.tried.hasFailed) << number;
                 ASSERT_EQ(0, result.leaked) << "allocation " << number << " of " << sample;
                 // A failure may be passed over where nothing depends on it; then all is as ever.
                 if (result.outcome.written && *result.outcome.written != SkippedLine)

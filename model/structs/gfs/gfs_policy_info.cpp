@@ -5,6 +5,7 @@
 #include <zelplatform/logging/logging.h>
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xml_document.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/job_names.h"
 
@@ -82,6 +83,7 @@ const char* SGfsPolicyInfoBase<TTraits>::getElementName(bool isShortNames) noexc
 template <class TTraits>
 void SGfsPolicyInfoBase<TTraits>::toXml(xmlpp::CXmlNode& policyNode, bool isShortNames) const
 {
+    const xmlpp::CXmlUndo undo(policyNode);
     auto node = policyNode.AddNode(getElementName(isShortNames));
     node.SetBoolAttribute(names::IsEnabled, isEnabled);
     node.SetInt64Attribute(keepCountName<TTraits>(isShortNames), keepCount);
@@ -119,12 +121,15 @@ bool SGfsPolicyInfo::isExistInXml(const xmlpp::CXmlNode& node)
 
 void SGfsPolicyInfo::toXml(xmlpp::CXmlNode& parent, bool isShortNames) const
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto policyNode = parent.AddNode(names::GfsPolicy);
     toXmlImpl(policyNode, isShortNames);
 }
 
 void SGfsPolicyInfo::toXmlImpl(xmlpp::CXmlNode& policyNode, bool isShortNames) const
 {
+    static constexpr const char* attributes[] = {names::IsEnabled};
+    const xmlpp::CXmlUndo undo(policyNode, attributes);
     policyNode.SetBoolAttribute(names::IsEnabled, isEnabled);
     writeRule(weekly, policyNode, isShortNames);
     writeRule(monthly, policyNode, isShortNames);

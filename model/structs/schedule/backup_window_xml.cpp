@@ -4,6 +4,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 namespace zelplatform::model::structs
 {
@@ -23,6 +24,8 @@ EDayOfWeek::type dayFromName(const std::string& name)
 
 void BackupWindow::injectMatrix(xmlpp::CXmlNode& node) const
 {
+    static constexpr const char* attributes[] = {KindTag};
+    const xmlpp::CXmlUndo undo(node, attributes);
     node.SetInt64Attribute(KindTag, m_matrix.getScheduleWindowKind());
     auto days = node.AddNode(DaysTag);
     for (const auto day : magic_enum::enum_values<EDayOfWeek::type>())
@@ -52,6 +55,7 @@ DayHourMatrix BackupWindow::getMatrix(const xmlpp::CXmlNode& node)
 void BackupWindow::toXml(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(BackupWindowTag);
     node.SetUint64Attribute(MinutesTag, static_cast<unsigned long>(static_cast<long>(m_hourlyOffsetMinutes)));
     injectMatrix(node);

@@ -4,6 +4,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/optional_attribute.h"
 #include "detail/schedule_names.h"
@@ -172,6 +173,7 @@ std::string CFullBackupOptions::GetRootNodeName(EFullBackupType type)
 void CFullBackupOptions::ToXml(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(elementName(m_type));
     node.SetUint64Attribute(names::Version, s_version);
     node.SetBoolAttribute(names::IsEnabled, m_isEnabled);

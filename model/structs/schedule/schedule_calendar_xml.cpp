@@ -2,6 +2,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/schedule_names.h"
 
@@ -23,6 +24,8 @@ EScheduleType::type readType(const xmlpp::CXmlNode& node, EScheduleType::type ol
 void CScheduleCalendar::ToXml(xmlpp::CXmlNode& node) const
 try
 {
+    static constexpr const char* attributes[] = {names::WeekDayNumber, names::DayOfMonth, names::Type};
+    const xmlpp::CXmlUndo undo(node, attributes);
     node.SetAttribute(names::WeekDayNumber, EWeekDayNumber::ToStr(m_weekDayNumber));
     m_dayOfMonth.ToXml(node);
     m_weekMask.ToXml(node);

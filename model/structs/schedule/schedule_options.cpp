@@ -6,6 +6,7 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xml_document.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/schedule_names.h"
 
@@ -101,6 +102,7 @@ bool operator==(const CScheduleOptions& a, const CScheduleOptions& b)
 void CScheduleOptions::ToXml(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     m_jobStart.ToXml(parent);
     m_activeFull.ToXml(parent);
     m_syntheticFull.ToXml(parent);

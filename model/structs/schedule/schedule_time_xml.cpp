@@ -2,6 +2,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/schedule_names.h"
 
@@ -20,6 +21,7 @@ constexpr unsigned long LowByte = 0xFF;
 void CScheduleTime::ToXml(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::Time);
     node.SetUint64Attribute(names::Hours, m_hours);
     node.SetUint64Attribute(names::Minutes, m_minutes);

@@ -3,6 +3,7 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xml_document.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/optional_attribute.h"
 #include "detail/schedule_names.h"
@@ -107,6 +108,7 @@ CStartJobScheduleOptions readOld(const xmlpp::CXmlNode& parent, const xmlpp::CXm
 void CStartJobScheduleOptions::ToXml(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::Schedule);
     node.SetUint64Attribute(names::Version, s_version);
     node.SetBoolAttribute(names::IsEnabled, m_isEnabled);

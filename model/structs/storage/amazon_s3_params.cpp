@@ -4,6 +4,7 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xml_document.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/optional_attribute.h"
 #include "detail/storage_names.h"
@@ -19,6 +20,7 @@ namespace names = detail::storage_names;
 
 void SAmazonS3Proxy::ToXmlNode(xmlpp::CXmlNode& parent) const
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::Proxy);
     node.SetAttribute(names::ProxyEndpoint, endpoint);
     node.SetAttribute(names::ProxyLogin, login);
@@ -56,6 +58,7 @@ void SAmazonS3Endpoint::Clear()
 void SAmazonS3Endpoint::ToXmlNode(xmlpp::CXmlNode& parent) const
 try
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::Endpoint);
     node.SetAttribute(names::ApiEndpoint, apiEndpoint);
     node.SetAttribute(names::ArnString, arnString);
@@ -100,6 +103,7 @@ void SAmazonS3Credentials::Clear()
 
 void SAmazonS3Credentials::ToXmlNode(xmlpp::CXmlNode& parent) const
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::Credentials);
     node.SetAttribute(names::AccessKeyId, accessKeyId);
     node.SetAttribute(names::SecretAccessKey, secretAccessKey);
@@ -138,6 +142,7 @@ void SAmazonS3SpecificParams::Clear()
 
 void SAmazonS3SpecificParams::ToXmlNode(xmlpp::CXmlNode& parent) const
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::AmazonS3SpecificParams);
     credentials.ToXmlNode(node);
     endpoint.ToXmlNode(node);

@@ -2,6 +2,7 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "detail/storage_names.h"
 
@@ -33,6 +34,7 @@ bool SObjectStorageImmutabilitySettings::HasXmlNode(const xmlpp::CXmlNode& paren
 
 void SObjectStorageImmutabilitySettings::ToXml(xmlpp::CXmlNode& parent) const
 {
+    const xmlpp::CXmlUndo undo(parent);
     auto node = parent.AddNode(names::ImmutabilitySettings);
     node.SetBoolAttribute(names::IsEnabled, isEnabled);
     node.SetInt64Attribute(names::IntervalDays, intervalDays);

@@ -9,8 +9,10 @@
 
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
+#include <zelplatform/xmlpp/xml_undo.h>
 
 #include "lookups.h"
+#include "stored_text.h"
 #include "text_checks.h"
 #include "xml_printer.h"
 
@@ -309,12 +311,16 @@ std::string CXmlNode::GetInnerText() const
 
 void CXmlNode::setAttributeText(CXmlName name, const char* value)
 {
-    element().SetAttribute(name.c_str(), value);
+    auto& owner = element();
+    if (const auto* attribute = findNamed(owner.FirstAttribute(), nullptr, name))
+        detail::setValue(*attribute, value);
+    else
+        detail::addAttribute(owner, name.c_str(), value);
 }
 
 void CXmlNode::SetName(CXmlName name)
 {
-    element().SetName(name.c_str());
+    detail::setName(element(), name.c_str());
 }
 
 void CXmlNode::RemoveAttribute(CXmlName name)
@@ -369,12 +375,18 @@ void CXmlNode::SetInnerText(const std::string& value)
 {
     if (!detail::isCarriedByXml(value))
         throw exc::CRuntimeExc("The text of [%1] has a character that XML cannot carry.", GetName());
-    element().SetText(value.c_str());
+    auto& owner = element();
+    auto* first = owner.FirstChild();
+    if (first != nullptr && first->ToText() != nullptr)
+        detail::setText(*first->ToText(), value.c_str());
+    else
+        owner.InsertFirstChild(owner.GetDocument()->NewText(value.c_str()));
 }
 
 CXmlNode CXmlNode::AddStringArray(CXmlName name, CXmlName itemName, CXmlName attributeName,
                                   const std::vector<std::string>& values)
 {
+    const CXmlUndo undo(*this);
     auto list = AddNode(name);
     for (const auto& value : values)
         list.AddNode(itemName).SetAttribute(attributeName, value);

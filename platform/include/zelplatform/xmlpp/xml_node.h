@@ -42,6 +42,7 @@ struct SXmlAttribute
 
 /// A handle to an element, or to a document itself, whose children are the top-level elements. The handle shares
 /// ownership of the document, so it cannot dangle; copies refer to the same node, and const is of the handle.
+/// What changes the document changes nothing when it fails.
 /// Getters throw exc::CRuntimeExc for what is missing or malformed; texts they give point into the document and live
 /// as long as it does. Reading attributes in the order in which they were written visits each one once.
 /// One document is for one thread at a time, also when it is only read.
@@ -144,6 +145,7 @@ public:
 private:
     friend class CXmlNodeRange;
     friend class CXmlDocument;
+    friend class CXmlUndo;
 
     tinyxml2::XMLElement* findElement() const noexcept;
     tinyxml2::XMLElement& element() const;

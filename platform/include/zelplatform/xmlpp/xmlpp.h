@@ -4,3 +4,4 @@
 #include <zelplatform/xmlpp/xml_document.h>
 #include <zelplatform/xmlpp/xml_name.h>
 #include <zelplatform/xmlpp/xml_node.h>
+#include <zelplatform/xmlpp/xml_undo.h>

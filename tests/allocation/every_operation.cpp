@@ -1,0 +1,17 @@
+#include "operation.h"
+
+namespace zelmodel_test
+{
+
+const Operations& everyOperation()
+{
+    static const Operations operations = [] {
+        Operations joined;
+        for (const auto family : {xmlNodeOperations, xmlWriterOperations})
+            joined = std::move(joined) + family();
+        return joined;
+    }();
+    return operations;
+}
+
+} // namespace zelmodel_test
