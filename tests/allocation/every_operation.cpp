@@ -7,7 +7,8 @@ const Operations& everyOperation()
 {
     static const Operations operations = [] {
         Operations joined;
-        for (const auto family : {xmlNodeOperations, xmlWriterOperations})
+        for (const auto family : {xmlNodeOperations, xmlWriterOperations, calendarOperations, maskOperations,
+                                  scheduleOperations, windowOperations})
             joined = std::move(joined) + family();
         return joined;
     }();

@@ -147,6 +147,10 @@ inline Operations operator+(Operations a, const Operations& b)
 // The families.
 Operations xmlNodeOperations();
 Operations xmlWriterOperations();
+Operations calendarOperations();
+Operations maskOperations();
+Operations scheduleOperations();
+Operations windowOperations();
 
 /// Every operation, in the order of the families.
 const Operations& everyOperation();

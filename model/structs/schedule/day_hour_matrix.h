@@ -32,8 +32,8 @@ public:
     unsigned operator()(int day, int hour) const;
 
 private:
+    std::vector<unsigned> m_cells; ///< first: when copying them fails, the kind is not assigned either
     EScheduleWindowKind m_kind;
-    std::vector<unsigned> m_cells;
 };
 
 } // namespace zelplatform::model::structs

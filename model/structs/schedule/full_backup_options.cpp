@@ -16,7 +16,12 @@ namespace
 
 namespace names = detail::schedule_names;
 
-constexpr unsigned long DefaultDayOfMonth = 1;
+const CScheduleCalendar& defaultCalendar()
+{
+    static const CScheduleCalendar firstOfEveryMonth(EScheduleType::Monthly, std::nullopt, CWeekMask(true),
+                                                     CMonthMask(true), EWeekDayNumber::Every, CDayOfMonth(1));
+    return firstOfEveryMonth;
+}
 
 const char* elementName(EFullBackupType type) noexcept
 {
@@ -25,10 +30,9 @@ const char* elementName(EFullBackupType type) noexcept
 
 } // namespace
 
-CFullBackupOptions::CFullBackupOptions(EFullBackupType type) : m_isEnabled(false), m_type(Constructing)
+CFullBackupOptions::CFullBackupOptions(EFullBackupType type)
+    : m_calendar(defaultCalendar()), m_isEnabled(false), m_type(type)
 {
-    Reset();
-    m_type = type;
 }
 
 CFullBackupOptions::CFullBackupOptions(CScheduleCalendar calendar, bool enabled, EFullBackupType type)
@@ -86,8 +90,8 @@ catch (std::exception& cause)
 void CFullBackupOptions::SetDefaultMonthly()
 try
 {
-    static const CMonthMask everyMonth(true);
-    SetMonthlyOnDay(CDayOfMonth(DefaultDayOfMonth), everyMonth);
+    m_calendar = defaultCalendar();
+    Enable();
 }
 catch (std::exception& cause)
 {

@@ -17,6 +17,13 @@ class ZELMODEL_API CMonthMask
 public:
     explicit CMonthMask(bool on);
     explicit CMonthMask(std::vector<bool> mask) noexcept;
+    CMonthMask(const CMonthMask&) = default;
+    CMonthMask(CMonthMask&&) noexcept = default;
+    CMonthMask& operator=(CMonthMask&&) noexcept = default;
+    ~CMonthMask() = default;
+
+    /// All or nothing: assigning flags alone gives up the former ones before there is memory for the new.
+    CMonthMask& operator=(const CMonthMask& other) { return *this = CMonthMask(other); }
 
     /// Sets the named months on, long or short names in any letter case, blanks around them removed. Throws "MonthMask:
     /// Failed to convert from string vector. ...".

@@ -1,5 +1,7 @@
 #include <zelmodel/structs/schedule/schedule_calendar.h>
 
+#include <utility>
+
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/util/util.h>
 
@@ -24,6 +26,17 @@ EDayOfWeek::type theOneWeekDay(const CWeekMask& mask)
     if (days.size() != 1)
         throw exc::CRuntimeExc("Wrong number of week days [%1] for monthly schedule", util::toStr(days.size()));
     return days.front();
+}
+
+// A time as it is stored, which is refused when it is out of range.
+std::optional<CScheduleTime> checkedTime(std::optional<CScheduleTime> time, bool periodical)
+{
+    if (time)
+    {
+        time->FixQorTimeFormat(periodical);
+        time->Validate(periodical);
+    }
+    return time;
 }
 
 bool isTiedToDays(const CScheduleCalendar& calendar) noexcept
@@ -77,12 +90,8 @@ catch (std::exception& cause)
 void CScheduleCalendar::SetWeekly(const std::optional<CScheduleTime>& time, const CWeekMask& weekMask)
 try
 {
-    SetTimeImpl(time, false);
-    m_type = EScheduleType::Weekly;
-    m_weekDayNumber = EWeekDayNumber::Every;
-    m_dayOfMonth.Reset();
-    m_monthMask.Reset(true);
-    m_weekMask = weekMask;
+    const auto checked = checkedTime(time, false);
+    Store(EScheduleType::Weekly, checked, EWeekDayNumber::Every, CDayOfMonth(), weekMask, CMonthMask(true));
 }
 catch (std::exception& cause)
 {
@@ -96,13 +105,8 @@ try
     if (weekDayNumber == EWeekDayNumber::Every)
         throw exc::CRuntimeExc(
             "Schedule on every day of week is forbidden in monthly schedule - it is weekly schedule.");
-    SetTimeImpl(time, false);
-    m_type = EScheduleType::Monthly;
-    m_dayOfMonth.Reset();
-    m_weekMask.Reset(false);
-    SetWeekDayNumber(weekDayNumber);
-    m_weekMask.SetDay(dayOfWeek, true);
-    m_monthMask = monthMask;
+    const auto checked = checkedTime(time, false);
+    Store(EScheduleType::Monthly, checked, weekDayNumber, CDayOfMonth(), onlyDay(dayOfWeek), monthMask);
 }
 catch (std::exception& cause)
 {
@@ -117,12 +121,8 @@ try
         throw exc::CRuntimeExc("Day of month is not set.");
     if (monthMask.IsAllMonthsOff())
         throw exc::CRuntimeExc("No one month is chosen.");
-    SetTimeImpl(time, false);
-    m_type = EScheduleType::Monthly;
-    m_weekMask.Reset(true);
-    m_weekDayNumber = EWeekDayNumber::Every;
-    m_dayOfMonth = dayOfMonth;
-    m_monthMask = monthMask;
+    const auto checked = checkedTime(time, false);
+    Store(EScheduleType::Monthly, checked, EWeekDayNumber::Every, dayOfMonth, CWeekMask(true), monthMask);
 }
 catch (std::exception& cause)
 {
@@ -133,12 +133,9 @@ catch (std::exception& cause)
 void CScheduleCalendar::SetPeriodically(const CScheduleTime& period)
 try
 {
-    SetTimeImpl(period, true);
-    m_type = EScheduleType::Periodically;
-    m_weekDayNumber = EWeekDayNumber::Every;
-    m_weekMask.Reset(true);
-    m_dayOfMonth.Reset();
-    m_monthMask.Reset(true);
+    const auto checked = checkedTime(period, true);
+    Store(EScheduleType::Periodically, checked, EWeekDayNumber::Every, CDayOfMonth(), CWeekMask(true),
+          CMonthMask(true));
 }
 catch (std::exception& cause)
 {
@@ -148,12 +145,8 @@ catch (std::exception& cause)
 void CScheduleCalendar::SetContinuously()
 try
 {
-    ResetTime();
-    m_type = EScheduleType::Continuously;
-    m_weekDayNumber = EWeekDayNumber::Every;
-    m_weekMask.Reset(true);
-    m_dayOfMonth.Reset();
-    m_monthMask.Reset(true);
+    Store(EScheduleType::Continuously, std::nullopt, EWeekDayNumber::Every, CDayOfMonth(), CWeekMask(true),
+          CMonthMask(true));
 }
 catch (std::exception& cause)
 {
@@ -197,7 +190,7 @@ catch (std::exception& cause)
 void CScheduleCalendar::SetTime(const std::optional<CScheduleTime>& time)
 try
 {
-    SetTimeImpl(time, IsSchedulePeriodically());
+    m_time = checkedTime(time, IsSchedulePeriodically());
 }
 catch (std::exception& cause)
 {
@@ -209,15 +202,16 @@ void CScheduleCalendar::ResetTime() noexcept
     m_time.reset();
 }
 
-void CScheduleCalendar::SetTimeImpl(const std::optional<CScheduleTime>& time, bool periodical)
+void CScheduleCalendar::Store(EScheduleType::type type, const std::optional<CScheduleTime>& time,
+                              EWeekDayNumber::type weekDayNumber, const CDayOfMonth& dayOfMonth, CWeekMask weekMask,
+                              CMonthMask monthMask) noexcept
 {
-    auto checked = time;
-    if (checked)
-    {
-        checked->FixQorTimeFormat(periodical);
-        checked->Validate(periodical);
-    }
-    m_time = checked;
+    m_type = type;
+    m_time = time;
+    m_weekDayNumber = weekDayNumber;
+    m_dayOfMonth = dayOfMonth;
+    m_weekMask = std::move(weekMask);
+    m_monthMask = std::move(monthMask);
 }
 
 bool CScheduleCalendar::ExpandTo(const CScheduleCalendar& other)

@@ -29,12 +29,20 @@ public:
     /// Monthly, on the first Monday of every month, without time.
     CScheduleCalendar();
 
+    CScheduleCalendar(const CScheduleCalendar&) = default;
+    CScheduleCalendar(CScheduleCalendar&&) noexcept = default;
+    CScheduleCalendar& operator=(CScheduleCalendar&&) noexcept = default;
+    ~CScheduleCalendar() = default;
+
+    /// All or nothing.
+    CScheduleCalendar& operator=(const CScheduleCalendar& other) { return *this = CScheduleCalendar(other); }
+
     /// Builds a calendar of the type through its setter. A monthly one takes the day of month when it is set, else the
     /// one week day of the mask. Throws "Failed to create schedule calendar via god constructor ...".
     CScheduleCalendar(EScheduleType::type type, const std::optional<CScheduleTime>& time, const CWeekMask& weekMask,
                       const CMonthMask& monthMask, EWeekDayNumber::type weekDayNumber, const CDayOfMonth& dayOfMonth);
 
-    /// Each setter checks the time first and changes nothing when it is refused.
+    /// Each setter checks the time first, and changes nothing when it fails.
     void SetWeekly(const std::optional<CScheduleTime>& time, const CWeekMask& weekMask);
 
     /// Refuses EWeekDayNumber::Every: that is a weekly schedule.
@@ -132,7 +140,8 @@ public:
 private:
     CScheduleCalendar(const xmlpp::CXmlNode& node, bool& isOldPeriodical);
 
-    void SetTimeImpl(const std::optional<CScheduleTime>& time, bool periodical);
+    void Store(EScheduleType::type type, const std::optional<CScheduleTime>& time, EWeekDayNumber::type weekDayNumber,
+               const CDayOfMonth& dayOfMonth, CWeekMask weekMask, CMonthMask monthMask) noexcept;
     std::string DaysToLogStr(bool shortNames) const;
     std::string MonthsToLogStr(bool shortNames) const;
 

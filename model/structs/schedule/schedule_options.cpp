@@ -58,8 +58,10 @@ CScheduleOptions::~CScheduleOptions() = default;
 void CScheduleOptions::SetDefault()
 try
 {
-    m_jobStart.SetDefaultWeekly();
+    auto jobStart = m_jobStart;
+    jobStart.SetDefaultWeekly();
     m_activeFull.Reset();
+    m_jobStart = std::move(jobStart);
 }
 catch (std::exception& cause)
 {
@@ -70,8 +72,10 @@ catch (std::exception& cause)
 void CScheduleOptions::ResetBoth()
 try
 {
-    m_jobStart.Reset();
+    auto jobStart = m_jobStart;
+    jobStart.Reset();
     m_activeFull.Reset();
+    m_jobStart = std::move(jobStart);
 }
 catch (std::exception& cause)
 {
@@ -122,9 +126,11 @@ CScheduleOptions CScheduleOptions::FromXml(const xmlpp::CXmlNode& parent)
 void CScheduleOptions::ReadXml(const xmlpp::CXmlNode& parent)
 try
 {
-    m_jobStart = CStartJobScheduleOptions::FromXml(parent);
-    m_activeFull = CFullBackupOptions::FromXml(parent, ActiveFull);
+    auto jobStart = CStartJobScheduleOptions::FromXml(parent);
+    auto activeFull = CFullBackupOptions::FromXml(parent, ActiveFull);
     m_syntheticFull = CFullBackupOptions::FromXml(parent, SyntheticFull);
+    m_activeFull = std::move(activeFull);
+    m_jobStart = std::move(jobStart);
 }
 catch (std::exception& cause)
 {

@@ -62,7 +62,7 @@ public:
     /// Reads what ToXml writes; what is missing keeps its default.
     static CScheduleOptions FromXml(const xmlpp::CXmlNode& parent);
 
-    /// FromXml into this object, whose window stays. A failure leaves the parts that were read before it.
+    /// FromXml into this object, whose window stays. Nothing changes when the read fails.
     void ReadXml(const xmlpp::CXmlNode& parent);
 
     /// A document with the root "ScheduleOptions".

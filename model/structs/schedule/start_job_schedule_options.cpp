@@ -11,18 +11,20 @@ namespace
 {
 
 constexpr const char* ClassName = "CStartJobScheduleOptions";
-constexpr std::uint8_t DefaultHours = 0;
-constexpr std::uint8_t DefaultMinutes = 30;
+
+const CScheduleCalendar& defaultCalendar()
+{
+    static const CScheduleCalendar everyDayAfterMidnight(EScheduleType::Weekly, CScheduleTime(0, 30), CWeekMask(true),
+                                                         CMonthMask(true), EWeekDayNumber::Every, CDayOfMonth());
+    return everyDayAfterMidnight;
+}
 
 } // namespace
 
-CStartJobScheduleOptions::CStartJobScheduleOptions() : m_isEnabled(false)
-{
-    Reset();
-}
+CStartJobScheduleOptions::CStartJobScheduleOptions() : m_calendar(defaultCalendar()), m_isEnabled(false) {}
 
 CStartJobScheduleOptions::CStartJobScheduleOptions(bool enabled, std::optional<CScheduleCalendar> calendar)
-    : m_isEnabled(enabled), m_calendar(calendar ? *std::move(calendar) : CScheduleCalendar())
+    : m_calendar(calendar ? *std::move(calendar) : CScheduleCalendar()), m_isEnabled(enabled)
 {
 }
 
@@ -87,8 +89,8 @@ catch (std::exception& cause)
 void CStartJobScheduleOptions::SetDefaultWeekly()
 try
 {
-    static const CWeekMask everyDay(true);
-    SetWeekly(DefaultHours, DefaultMinutes, everyDay);
+    m_calendar = defaultCalendar();
+    Enable();
 }
 catch (std::exception& cause)
 {

@@ -99,8 +99,8 @@ public:
     static CStartJobScheduleOptions Unserialize(io::binary_stream_tt& stream);
 
 private:
+    CScheduleCalendar m_calendar; ///< first: when copying it fails, the flag is not assigned either
     bool m_isEnabled;
-    CScheduleCalendar m_calendar;
 };
 
 } // namespace zelplatform::model::structs

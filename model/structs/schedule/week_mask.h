@@ -17,6 +17,13 @@ class ZELMODEL_API CWeekMask
 public:
     explicit CWeekMask(bool on);
     explicit CWeekMask(std::vector<bool> mask) noexcept;
+    CWeekMask(const CWeekMask&) = default;
+    CWeekMask(CWeekMask&&) noexcept = default;
+    CWeekMask& operator=(CWeekMask&&) noexcept = default;
+    ~CWeekMask() = default;
+
+    /// All or nothing: assigning flags alone gives up the former ones before there is memory for the new.
+    CWeekMask& operator=(const CWeekMask& other) { return *this = CWeekMask(other); }
 
     /// Sets the named days on, long or short names in any letter case, blanks around them removed. Throws "WeekMask:
     /// Failed to convert from string vector. ...".
