@@ -17,12 +17,12 @@ SBackupJobOptions::SBackupJobOptions(KbBlockSize::type size) : blockSize(size) {
 
 void SBackupJobOptions::setDefault()
 {
+    schedule.ResetBoth();
     compression = BackupJobCompression::Default;
     blockSize = KbBlockSize::KbBlockSize1024;
     dedupEnabled = true;
     retryCount = 0;
     retryTimeoutMs = DefaultRetryTimeoutMs;
-    schedule.ResetBoth();
     snapshotMode = ESnapshotMode::GetDefault();
 }
 

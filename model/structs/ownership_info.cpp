@@ -6,9 +6,9 @@
 namespace zelplatform::model::structs
 {
 
-COwnershipInfo::COwnershipInfo() : m_type(EOwnershipType::NoOwner), m_mode(EOwnershipMode::NotSet) {}
+COwnershipInfo::COwnershipInfo() : m_mode(EOwnershipMode::NotSet), m_type(EOwnershipType::NoOwner) {}
 
-COwnershipInfo::COwnershipInfo(EOwnershipType::type type, const std::string& mode) : m_type(type), m_mode(mode)
+COwnershipInfo::COwnershipInfo(EOwnershipType::type type, const std::string& mode) : m_mode(mode), m_type(type)
 {
     CheckOwnershipAndModeCompatibility(type, mode);
 }

@@ -43,8 +43,8 @@ public:
     friend bool operator!=(const COwnershipInfo& a, const COwnershipInfo& b) { return !(a == b); }
 
 private:
+    std::string m_mode; ///< first: when copying it fails, the type is not assigned either
     EOwnershipType::type m_type;
-    std::string m_mode;
 };
 
 } // namespace zelplatform::model::structs

@@ -20,10 +20,10 @@ namespace names = detail::transform_names;
 CCreateGfsSyntheticFullSpec::CCreateGfsSyntheticFullSpec(const guid::guid_t& sessionId, const guid::guid_t& backupId,
                                                          ETransformOperationType::type operationType,
                                                          std::string jobTargetFile)
-    : m_sessionId(sessionId),
+    : m_jobTargetFile(std::move(jobTargetFile)),
+      m_sessionId(sessionId),
       m_backupId(backupId),
-      m_operationType(operationType),
-      m_jobTargetFile(std::move(jobTargetFile))
+      m_operationType(operationType)
 {
 }
 

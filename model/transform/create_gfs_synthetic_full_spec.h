@@ -33,10 +33,10 @@ public:
     static std::shared_ptr<CCreateGfsSyntheticFullSpec> FromXmlNode(const xmlpp::CXmlNode& node);
 
 private:
+    std::string m_jobTargetFile; ///< first: when copying it fails, nothing else is assigned either
     guid::guid_t m_sessionId;
     guid::guid_t m_backupId;
     ETransformOperationType::type m_operationType;
-    std::string m_jobTargetFile;
 };
 
 } // namespace zelplatform::model::transform

@@ -17,6 +17,17 @@ public:
     CCreateSyntheticFullSpec(const guid::guid_t& sessionId, const guid::guid_t& backupId,
                              std::vector<guid::guid_t> lastIncrementPoints, std::string jobTargetFile);
 
+    CCreateSyntheticFullSpec(const CCreateSyntheticFullSpec&) = default;
+    CCreateSyntheticFullSpec(CCreateSyntheticFullSpec&&) = default;
+    CCreateSyntheticFullSpec& operator=(CCreateSyntheticFullSpec&&) = default;
+    ~CCreateSyntheticFullSpec() override = default;
+
+    /// All or nothing.
+    CCreateSyntheticFullSpec& operator=(const CCreateSyntheticFullSpec& other)
+    {
+        return *this = CCreateSyntheticFullSpec(other);
+    }
+
     void SetLastIncrementPoints(const std::vector<guid::guid_t>& points) { m_lastIncrementPoints = points; }
     void SetJobTargetFile(const std::string& file) { m_jobTargetFile = file; }
 

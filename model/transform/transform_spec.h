@@ -47,12 +47,12 @@ public:
     static std::shared_ptr<CTransformSpec> FromXmlNode(const xmlpp::CXmlNode& node);
 
 private:
+    std::vector<guid::guid_t> m_pointIds; ///< first: when copying them fails, nothing else is assigned either
     guid::guid_t m_sessionId;
     guid::guid_t m_backupId;
     ETransformOperationType::type m_operationType = ETransformOperationType::DeletePoint;
     ETransformType::type m_transformType{};
     bool m_integrityCheckEnabled = false;
-    std::vector<guid::guid_t> m_pointIds;
 };
 
 } // namespace zelplatform::model::transform

@@ -8,7 +8,9 @@ const Operations& everyOperation()
     static const Operations operations = [] {
         Operations joined;
         for (const auto family : {xmlNodeOperations, xmlWriterOperations, calendarOperations, maskOperations,
-                                  scheduleOperations, windowOperations})
+                                  scheduleOperations, windowOperations, jobOperations, gfsOperations, recordOperations,
+                                  storageOperations, sessionOperations, transformOperations, keyOperations,
+                                  enumerationOperations, textOperations, deviceOperations, logOperations})
             joined = std::move(joined) + family();
         return joined;
     }();

@@ -151,6 +151,17 @@ Operations calendarOperations();
 Operations maskOperations();
 Operations scheduleOperations();
 Operations windowOperations();
+Operations jobOperations();
+Operations gfsOperations();
+Operations recordOperations();
+Operations storageOperations();
+Operations sessionOperations();
+Operations transformOperations();
+Operations keyOperations();
+Operations enumerationOperations();
+Operations textOperations();
+Operations deviceOperations();
+Operations logOperations();
 
 /// Every operation, in the order of the families.
 const Operations& everyOperation();

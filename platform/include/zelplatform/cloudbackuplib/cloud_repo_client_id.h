@@ -15,7 +15,7 @@ class ZELPLATFORM_API CCloudRepoClientId
 public:
     CCloudRepoClientId() = default;
     explicit CCloudRepoClientId(const guid::guid_t& id, std::string companion = {})
-        : m_guid(id), m_companion(std::move(companion))
+        : m_companion(std::move(companion)), m_guid(id)
     {
     }
 
@@ -36,8 +36,8 @@ public:
     friend bool operator!=(const CCloudRepoClientId& a, const CCloudRepoClientId& b) noexcept { return !(a == b); }
 
 private:
+    std::string m_companion; ///< first: when copying it fails, the GUID is not assigned either
     guid::guid_t m_guid;
-    std::string m_companion;
 };
 
 } // namespace cloudbackuplib

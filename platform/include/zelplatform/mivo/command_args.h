@@ -17,6 +17,15 @@ namespace mivo
 class ZELPLATFORM_API CMivoCommandArgs
 {
 public:
+    CMivoCommandArgs() = default;
+    CMivoCommandArgs(const CMivoCommandArgs&) = default;
+    CMivoCommandArgs(CMivoCommandArgs&&) noexcept = default;
+    CMivoCommandArgs& operator=(CMivoCommandArgs&&) noexcept = default;
+    ~CMivoCommandArgs() = default;
+
+    /// All or nothing.
+    CMivoCommandArgs& operator=(const CMivoCommandArgs& other) { return *this = CMivoCommandArgs(other); }
+
     void SetString(std::string_view key, std::string value);
     void SetUInt64(std::string_view key, unsigned long value);
 
