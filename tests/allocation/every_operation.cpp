@@ -7,10 +7,11 @@ const Operations& everyOperation()
 {
     static const Operations operations = [] {
         Operations joined;
-        for (const auto family : {xmlNodeOperations, xmlWriterOperations, calendarOperations, maskOperations,
-                                  scheduleOperations, windowOperations, jobOperations, gfsOperations, recordOperations,
-                                  storageOperations, sessionOperations, transformOperations, keyOperations,
-                                  enumerationOperations, textOperations, deviceOperations, logOperations})
+        for (const auto family :
+             {xmlNodeOperations, xmlWriterOperations, calendarOperations, maskOperations, scheduleOperations,
+              windowOperations, jobOperations, gfsOperations, recordOperations, storageOperations, sessionOperations,
+              transformOperations, keyOperations, enumerationOperations, timeOperations, textOperations,
+              deviceOperations, logOperations})
             joined = std::move(joined) + family();
         return joined;
     }();

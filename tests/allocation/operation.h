@@ -159,6 +159,7 @@ Operations sessionOperations();
 Operations transformOperations();
 Operations keyOperations();
 Operations enumerationOperations();
+Operations timeOperations();
 Operations textOperations();
 Operations deviceOperations();
 Operations logOperations();

@@ -147,6 +147,8 @@ std::string CDateTime::toStdString(std::string_view format) const
                          .day_of_year() -
                      1;
     std::ostringstream out;
+    // Without it a text that there is no memory for would be cut in silence.
+    out.exceptions(std::ios::badbit);
     out.imbue(std::locale::classic());
     out << std::put_time(&broken, std::string(format).c_str());
     return out.str();
