@@ -188,21 +188,27 @@ TEST(HostileKeyBundle, PartsOfAKeySetAtTheirLimits)
     EXPECT_TRUE(zelmodel_test::same(*read.keySets.at(keys.id), *parts.make()));
 }
 
-TEST(HostileKeyBundle, IdentifiersThatAreNone)
+// Where a length is wrong, a key may stand in the place of an identifier: on purpose none is quoted.
+TEST(HostileKeyBundle, IdentifiersThatAreNoneAreNotQuoted)
 {
     for (const std::string& bad :
          {std::string("x"), std::string("{6b1f2c3d-0a1b-4c2d-8e3f-0123456789ab"),
           std::string("6b1f2c3d-0a1b-4c2d-8e3f-0123456789ab}"), std::string("6b1f2c3d-0a1b-4c2d-8e3f-0123456789a"),
           std::string("gb1f2c3d-0a1b-4c2d-8e3f-0123456789ab"), std::string("6b1f2c3d 0a1b 4c2d 8e3f 0123456789ab")})
     {
-        const std::string inner = "Unable to convert string [" + bad + "] to GUID.";
+        const std::string inner =
+            "Unable to convert string [(hidden, " + std::to_string(bad.size()) + " bytes)] to GUID.";
         EXPECT_EQ(inner, refusal(text(bad) + u64(0), true).message);
         EXPECT_EQ(inner, refusal(text(bundleId) + u64(1) + text(bad) + keySetBytes(), true).message);
         EXPECT_EQ(inner,
                   refusal(text(bundleId) + u64(2) + text(bundleId) + keySetBytes() + text(bad) + keySetBytes(), true)
                       .message);
     }
-    EXPECT_NE("", refusal(text(bundleId + std::string(1, '\0')) + u64(0), true).message);
+    for (const std::string& bad : {bundleId + std::string(1, '\0'), std::string(39, 'a'), std::string(100000, 'a')})
+    {
+        EXPECT_EQ("Unable to convert string [(hidden, " + std::to_string(bad.size()) + " bytes)] to GUID.",
+                  refusal(text(bad) + u64(0), true).message);
+    }
 }
 
 TEST(HostileKeyBundle, ManyEntriesOfOneIdentifierAreOne)

@@ -77,7 +77,10 @@ TEST(GuidTest, RefusesEveryOtherText)
     {
         EXPECT_EQ(zelmodel_test::failureText([&] { guid_t::FromAStr(text); }),
                   "Unable to convert string [" + text + "] to GUID.");
+        EXPECT_FALSE(guid_t::TryFromAStr(text)) << text;
     }
+    EXPECT_EQ(guid_t(), guid_t::TryFromAStr(""));
+    EXPECT_EQ(guid_t::FromAStr(SomeText), guid_t::TryFromAStr(SomeText));
 }
 
 TEST(GuidTest, WritesTheSameTextWithoutMemory)

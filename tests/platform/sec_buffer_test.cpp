@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +48,31 @@ TEST(SecBufferTest, HoldsBytes)
     EXPECT_EQ(moved.data(), bytes);
     copy.back() = 'x';
     EXPECT_NE(copy, moved);
+}
+
+TEST(SecBufferTest, ErasesBytesWithoutMemoryOfTheirOwn)
+{
+    using Bytes = crypto::sec_array_t<8>;
+    alignas(Bytes) char place[sizeof(Bytes)];
+    auto* const bytes = new (place) Bytes;
+    EXPECT_EQ(std::string(bytes->data(), bytes->size()), std::string(8, '\0'));
+    std::fill_n(bytes->data(), bytes->size(), 'x');
+    const Bytes copy = *bytes;
+    bytes->~Bytes();
+    EXPECT_EQ(std::string(place, sizeof(place)), std::string(8, '\0'));
+    EXPECT_EQ(std::string(copy.data(), copy.size()), "xxxxxxxx");
+}
+
+TEST(SecBufferTest, ErasesATextWhenItIsReplaced)
+{
+    crypto::sec_text_t text(CUniString(L"a text of its own memory"));
+    const auto copy = text;
+    const crypto::sec_text_t moved(std::move(text));
+    EXPECT_EQ(copy.get(), moved.get());
+    text = crypto::sec_text_t(CUniString(L"other"));
+    EXPECT_EQ(text.get(), CUniString(L"other"));
+    EXPECT_EQ(text.release(), CUniString(L"other"));
+    EXPECT_EQ(text.get(), CUniString());
 }
 
 TEST(SecBufferTest, HasOneAllocatorForAll)

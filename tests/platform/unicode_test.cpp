@@ -84,6 +84,19 @@ TEST(UnicodeTest, RefusesWideTextThatIsNoUnicode)
     }
 }
 
+TEST(UnicodeTest, IsErased)
+{
+    for (const std::wstring& characters : {std::wstring(), std::wstring(L"ab"), std::wstring(100, L'x')})
+    {
+        CUniString text(characters);
+        const wchar_t* const place = text.str().data();
+        text.Erase();
+        EXPECT_EQ(text, CUniString());
+        EXPECT_EQ(place, text.str().data());
+        EXPECT_EQ(std::wstring(place, characters.size()), std::wstring(characters.size(), L'\0'));
+    }
+}
+
 TEST(UnicodeTest, ComparesByTheirText)
 {
     EXPECT_EQ(CUtf8String("a"), CUtf8String(std::string("a")));

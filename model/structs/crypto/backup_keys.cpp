@@ -10,6 +10,7 @@
 
 #include "detail/base64_form.h"
 #include "detail/key_content.h"
+#include "detail/secret_guid.h"
 
 namespace zelplatform::model::structs
 {
@@ -67,11 +68,11 @@ void SExplicitBackupKeys::Unserialize(io::binary_stream_tt& stream)
 {
     SExplicitBackupKeys read;
     std::uint64_t count = 0;
-    stream >> read.id >> count;
+    read.id = detail::readGuidAmongSecrets(stream);
+    stream >> count;
     for (std::uint64_t i = 0; i < count; ++i)
     {
-        guid::guid_t keySetId;
-        stream >> keySetId;
+        const auto keySetId = detail::readGuidAmongSecrets(stream);
         read.keySets.insert_or_assign(read.keySets.end(), keySetId, crypto::CKeySet::Unserial(stream));
     }
     *this = std::move(read);

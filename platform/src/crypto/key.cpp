@@ -6,7 +6,6 @@
 #include <openssl/crypto.h>
 
 #include <zelplatform/exc/exc.h>
-#include <zelplatform/util/memory.h>
 #include <zelplatform/util/numbers.h>
 
 namespace crypto
@@ -21,7 +20,7 @@ CKey::CKey(sec_buffer_t bytes) : CKey()
         return;
     }
     m_shortSize = static_cast<unsigned>(bytes.size());
-    std::copy(bytes.begin(), bytes.end(), m_short.begin());
+    std::copy(bytes.begin(), bytes.end(), m_short.data());
 }
 
 CKey::CKey(io::binary_stream_tt& stream, std::size_t size) : CKey()
@@ -35,11 +34,6 @@ CKey::CKey(io::binary_stream_tt& stream, std::size_t size) : CKey()
     m_shortSize = static_cast<unsigned>(size);
     if (size != 0)
         stream.read_checked(m_short.data(), size);
-}
-
-CKey::~CKey()
-{
-    util::SecureErase(m_short.data(), m_short.size());
 }
 
 void CKey::CheckSize(std::size_t size)

@@ -1,7 +1,6 @@
 #include <zelplatform/crypto/key_set.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -42,7 +41,8 @@ void writeBytes(io::binary_stream_tt& stream, std::string_view bytes)
         stream.write(bytes.data(), bytes.size());
 }
 
-// Numbers and the identifier pass through here, so that the device is not called for each of them. Never key bytes.
+// Numbers and the identifier pass through here, so that the device is not called for each of them. Bytes of keys only
+// when a damaged form has them there.
 class FormPart
 {
 public:
@@ -87,9 +87,16 @@ public:
     }
 
 private:
-    std::array<char, CKeySetId::MaxSize + MaxNumbersSize> m_bytes;
+    sec_array_t<CKeySetId::MaxSize + MaxNumbersSize> m_bytes;
     std::size_t m_position = 0;
 };
+
+sec_text_t readHint(io::binary_stream_tt& stream)
+{
+    sec_buffer_t bytes;
+    stream >> bytes;
+    return sec_text_t(CUniString::FromUtf8Bytes({bytes.data(), bytes.size()}));
+}
 
 std::shared_ptr<CKey> readKey(io::binary_stream_tt& stream)
 {
@@ -131,7 +138,7 @@ std::string CKeySet::ToLogString() const
 
 void CKeySet::Serial(io::binary_stream_tt& stream) const
 {
-    const auto hint = CUtf8String::FromWide(m_hint);
+    const auto hint = CUtf8String::FromWide(m_hint.get());
     FormPart part;
     part.add(FormVersion);
     part.add(static_cast<std::uint8_t>(m_id.bytes().size()));
@@ -156,7 +163,7 @@ void CKeySet::Serial(io::binary_stream_tt& stream) const
 std::size_t CKeySet::MaxSerialSize() const noexcept
 {
     std::size_t size = StartSize + m_id.bytes().size() + NumbersSize;
-    size += LengthSize + m_hint.str().size() * LongestCharacter;
+    size += LengthSize + m_hint.get().str().size() * LongestCharacter;
     size += LengthSize;
     for (const auto& key : m_keys)
         size += LengthSize + key->size();
@@ -180,8 +187,9 @@ std::shared_ptr<CKeySet> CKeySet::Unserial(io::binary_stream_tt& stream)
     const auto seconds = static_cast<long>(part.number<std::uint64_t>());
     const lin::lin_filetime_t creationTime{seconds, part.number<std::uint32_t>()};
 
-    auto hint = CUniString::FromUtf8(stream.read_text());
-    return std::make_shared<CKeySet>(id, alg, role, std::move(hint), creationTime, readKeys(stream));
+    auto hint = readHint(stream);
+    auto keys = readKeys(stream);
+    return std::make_shared<CKeySet>(id, alg, role, hint.release(), creationTime, std::move(keys));
 }
 
 } // namespace crypto

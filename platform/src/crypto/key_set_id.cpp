@@ -12,7 +12,7 @@ namespace crypto
 CKeySetId::CKeySetId(std::string_view bytes) : m_size(bytes.size())
 {
     CheckSize(bytes.size());
-    std::copy(bytes.begin(), bytes.end(), m_bytes.begin());
+    std::copy(bytes.begin(), bytes.end(), m_bytes.data());
 }
 
 void CKeySetId::CheckSize(std::size_t size)

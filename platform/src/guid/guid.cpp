@@ -101,11 +101,17 @@ catch (std::exception& cause)
 
 guid_t guid_t::FromAStr(std::string_view text)
 {
-    guid_t id;
-    if (text.empty())
-        return id;
-    if (!parse(text, id.m_bytes))
+    const auto id = TryFromAStr(text);
+    if (!id)
         throw exc::CRuntimeExc("Unable to convert string [%1] to GUID.", std::string(text));
+    return *id;
+}
+
+std::optional<guid_t> guid_t::TryFromAStr(std::string_view text) noexcept
+{
+    guid_t id;
+    if (!text.empty() && !parse(text, id.m_bytes))
+        return std::nullopt;
     return id;
 }
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include <zelplatform/exc/exc.h>
+#include <zelplatform/util/memory.h>
 
 static_assert(sizeof(wchar_t) == 4, "a wide character holds a code point");
 
@@ -41,6 +42,29 @@ auto asciiEnd(const Text& text)
     throw exc::CRuntimeExc("Text is not valid UTF-8.");
 }
 
+/// Takes the first character off the bytes, which are not empty.
+char32_t takeCharacter(std::string_view& bytes)
+{
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    const auto* const form =
+        std::find_if(Forms.begin(), Forms.end(), [&](const Form& f) { return (lead & f.mask) == f.lead; });
+    const auto size = static_cast<std::size_t>(form - Forms.begin()) + 1;
+    if (form == Forms.end() || size > bytes.size())
+        failUtf8();
+    char32_t code = lead & ~form->mask;
+    for (std::size_t i = 1; i < size; ++i)
+    {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        if ((byte & 0xC0U) != 0x80U)
+            failUtf8();
+        code = code << 6 | (byte & 0x3FU);
+    }
+    if (code < form->least || !isCodePoint(code))
+        failUtf8();
+    bytes.remove_prefix(size);
+    return code;
+}
+
 } // namespace
 
 CUtf8String CUtf8String::FromWide(const CUniString& text)
@@ -64,28 +88,25 @@ CUtf8String CUtf8String::FromWide(const CUniString& text)
 
 CUniString CUniString::FromUtf8(const CUtf8String& text)
 {
-    const std::string& bytes = text.str();
-    const auto ascii = asciiEnd(bytes);
-    std::wstring characters(bytes.begin(), ascii);
-    for (auto i = characters.size(); i < bytes.size();)
-    {
-        const auto lead = static_cast<unsigned char>(bytes[i]);
-        const auto* const form =
-            std::find_if(Forms.begin(), Forms.end(), [&](const Form& f) { return (lead & f.mask) == f.lead; });
-        const auto end = i + static_cast<std::size_t>(form - Forms.begin()) + 1;
-        if (form == Forms.end() || end > bytes.size())
-            failUtf8();
-        char32_t code = lead & ~form->mask;
-        while (++i < end)
-        {
-            const auto byte = static_cast<unsigned char>(bytes[i]);
-            if ((byte & 0xC0U) != 0x80U)
-                failUtf8();
-            code = code << 6 | (byte & 0x3FU);
-        }
-        if (code < form->least || !isCodePoint(code))
-            failUtf8();
-        characters += static_cast<wchar_t>(code);
-    }
+    return FromUtf8Bytes(text.str());
+}
+
+CUniString CUniString::FromUtf8Bytes(std::string_view bytes)
+{
+    const auto asciiSize = static_cast<std::size_t>(asciiEnd(bytes) - bytes.begin());
+    std::size_t size = asciiSize;
+    for (auto rest = bytes.substr(asciiSize); !rest.empty(); ++size)
+        takeCharacter(rest);
+
+    std::wstring characters(size, L'\0');
+    auto out = std::copy_n(bytes.begin(), asciiSize, characters.begin());
+    for (auto rest = bytes.substr(asciiSize); !rest.empty(); ++out)
+        *out = static_cast<wchar_t>(takeCharacter(rest));
     return CUniString(std::move(characters));
+}
+
+void CUniString::Erase() noexcept
+{
+    util::SecureErase(m_text.data(), m_text.size() * sizeof(wchar_t));
+    m_text.clear();
 }

@@ -1,6 +1,5 @@
 #include "allocation_watch.h"
 
-#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -12,15 +11,9 @@ namespace
 
 std::atomic<std::size_t> largest{0};
 std::atomic<std::size_t> inAll{0};
-std::atomic<std::size_t> secrets{0};
 std::atomic<std::size_t> held{0};
 std::atomic<std::size_t> heldBefore{0};
 std::atomic<std::size_t> peak{0};
-
-bool holdsSecret(const char* bytes, std::size_t size) noexcept
-{
-    return std::search_n(bytes, bytes + size, zelmodel_test::SecretRun, zelmodel_test::SecretByte) != bytes + size;
-}
 
 void take(void* block) noexcept
 {
@@ -34,10 +27,7 @@ void giveBack(void* block) noexcept
 {
     if (block == nullptr)
         return;
-    const auto size = ::malloc_usable_size(block);
-    held -= size;
-    if (holdsSecret(static_cast<const char*>(block), size))
-        ++secrets;
+    held -= ::malloc_usable_size(block);
     std::free(block);
 }
 
@@ -90,7 +80,6 @@ void watchAllocations() noexcept
 {
     largest = 0;
     inAll = 0;
-    secrets = 0;
     heldBefore = held.load();
     peak = held.load();
 }
@@ -108,11 +97,6 @@ std::size_t allocatedInAll() noexcept
 std::size_t mostHeld() noexcept
 {
     return peak - heldBefore;
-}
-
-std::size_t secretsGivenBack() noexcept
-{
-    return secrets;
 }
 
 } // namespace zelmodel_test

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 
 #include <zelplatform/crypto/sec_buffer.h>
@@ -22,10 +21,6 @@ public:
     /// Reads that many bytes, which are not trusted to be there; throws when no key can have as many.
     CKey(io::binary_stream_tt& stream, std::size_t size);
 
-    CKey(const CKey&) = default;
-    CKey& operator=(const CKey&) = default;
-    ~CKey();
-
     /// Throws when no key can have that many bytes.
     static void CheckSize(std::size_t size);
 
@@ -44,7 +39,7 @@ private:
 
     sec_buffer_t m_long;
     unsigned m_shortSize = 0;
-    std::array<char, MaxShortSize> m_short{};
+    sec_array_t<MaxShortSize> m_short;
 };
 
 } // namespace crypto

@@ -8,6 +8,7 @@
 #include <zelplatform/crypto/alg.h>
 #include <zelplatform/crypto/key.h>
 #include <zelplatform/crypto/key_set_id.h>
+#include <zelplatform/crypto/sec_text.h>
 #include <zelplatform/export.h>
 #include <zelplatform/io/binary_stream.h>
 #include <zelplatform/lin/lin.h>
@@ -32,7 +33,7 @@ public:
     EKeySetUsageRole GetUsageRole() const noexcept { return m_role; }
 
     /// What helps a person to remember the password. Not for logs.
-    const CUniString& GetHint() const noexcept { return m_hint; }
+    const CUniString& GetHint() const noexcept { return m_hint.get(); }
 
     lin::lin_filetime_t GetCreationTime() const noexcept { return m_creationTime; }
     const std::vector<std::shared_ptr<CKey>>& GetKeys() const noexcept { return m_keys; }
@@ -47,13 +48,14 @@ public:
     std::size_t MaxSerialSize() const noexcept;
 
     /// Reads what Serial writes. No announced count or length is trusted; throws for an unknown version of the form.
+    /// When a wrong length makes the identifier or the hint of bytes of keys, they are erased like keys.
     static std::shared_ptr<CKeySet> Unserial(io::binary_stream_tt& stream);
 
 private:
     CKeySetId m_id;
     ECryptAlgs m_alg;
     EKeySetUsageRole m_role;
-    CUniString m_hint;
+    sec_text_t m_hint;
     lin::lin_filetime_t m_creationTime;
     std::vector<std::shared_ptr<CKey>> m_keys;
 };

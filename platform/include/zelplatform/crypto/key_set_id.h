@@ -1,16 +1,17 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
+#include <zelplatform/crypto/sec_buffer.h>
 #include <zelplatform/export.h>
 
 namespace crypto
 {
 
-/// The identifier of a key set: 0 to 64 bytes of any values, ordered byte by byte. No secret.
+/// The identifier of a key set: 0 to 64 bytes of any values, ordered byte by byte. No secret, but erased when it is
+/// released: in a damaged form its bytes can be those of keys.
 class ZELPLATFORM_API CKeySetId
 {
 public:
@@ -34,7 +35,7 @@ public:
     friend bool operator<(const CKeySetId& a, const CKeySetId& b) noexcept { return a.bytes() < b.bytes(); }
 
 private:
-    std::array<char, MaxSize> m_bytes{};
+    sec_array_t<MaxSize> m_bytes;
     std::size_t m_size = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <vector>
@@ -46,5 +47,23 @@ bool operator!=(const sec_allocator_t<T>&, const sec_allocator_t<U>&) noexcept
 
 /// Bytes that are erased when they are released.
 using sec_buffer_t = std::vector<char, sec_allocator_t<char>>;
+
+/// So many bytes without memory of their own, zero at first, that are erased when they are released.
+template <std::size_t Size>
+class sec_array_t
+{
+public:
+    sec_array_t() = default;
+    sec_array_t(const sec_array_t&) = default;
+    sec_array_t& operator=(const sec_array_t&) = default;
+    ~sec_array_t() { util::SecureErase(m_bytes.data(), Size); }
+
+    char* data() noexcept { return m_bytes.data(); }
+    const char* data() const noexcept { return m_bytes.data(); }
+    static constexpr std::size_t size() noexcept { return Size; }
+
+private:
+    std::array<char, Size> m_bytes{};
+};
 
 } // namespace crypto

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,8 +31,11 @@ public:
     static guid_t CreateNew();
 
     /// Reads 8-4-4-4-12 hexadecimal digits in any letter case, with or without a pair of braces around. The empty text
-    /// is the zero identifier. Anything else throws.
+    /// is the zero identifier. Anything else throws, and the message quotes it.
     static guid_t FromAStr(std::string_view text);
+
+    /// The same without a message, for texts that nobody may quote: nothing when the text is no identifier.
+    static std::optional<guid_t> TryFromAStr(std::string_view text) noexcept;
 
     /// Whether all bits are zero.
     bool IsEmpty() const noexcept { return *this == guid_t(); }

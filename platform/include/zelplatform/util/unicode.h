@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include <zelplatform/export.h>
@@ -38,7 +39,13 @@ public:
     /// Throws on bytes that are not well-formed UTF-8: cut or overlong sequences, surrogates, values above U+10FFFF.
     static CUniString FromUtf8(const CUtf8String& text);
 
+    /// The same of bytes that are of another text. Takes memory once, for the result, when all of them are well-formed.
+    static CUniString FromUtf8Bytes(std::string_view bytes);
+
     const std::wstring& str() const noexcept { return m_text; }
+
+    /// Overwrites the characters and leaves the text empty, for one that may hold a secret.
+    void Erase() noexcept;
 
     friend bool operator==(const CUniString& a, const CUniString& b) noexcept { return a.m_text == b.m_text; }
     friend bool operator!=(const CUniString& a, const CUniString& b) noexcept { return !(a == b); }
