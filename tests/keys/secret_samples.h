@@ -22,7 +22,12 @@ class ErasedText
 {
 public:
     explicit ErasedText(std::string text) : m_text(std::move(text)) {}
-    ~ErasedText() { util::SecureErase(m_text.data(), m_text.size()); }
+    ~ErasedText()
+    {
+        // What was cut off is still there.
+        m_text.resize(m_text.capacity());
+        util::SecureErase(m_text.data(), m_text.size());
+    }
     ErasedText(const ErasedText&) = delete;
     ErasedText& operator=(const ErasedText&) = delete;
 
