@@ -81,7 +81,7 @@ TEST(PrivateKeyMemory, LeavesNoSecretOnTheStack)
     {
         const auto pem = pemAround(label, before, after);
         const bool expected = isKey;
-        watchAllocations();
+        watchSecrets();
         EXPECT_FALSE(leavesSecretOnStack([&] { use(pem.str(), expected); })) << label << before.size();
     }
 }
@@ -97,7 +97,7 @@ TEST(PrivateKeyMemory, IsErasedWhenItIsRefusedBeforeItIsDecoded)
     for (const ErasedText* refused : {&std::as_const(cut), &std::as_const(foreign), &encrypted, &other})
     {
         const auto& pem = refused->str();
-        watchAllocations();
+        watchSecrets();
         use(pem, false);
         EXPECT_EQ(0U, secretsGivenBack());
         EXPECT_FALSE(leavesSecretOnStack([&] { use(pem, false); }));
