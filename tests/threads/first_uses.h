@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,11 @@ struct FirstUse
     /// What takes long is repeated in one of so many rounds.
     int cost = 1;
 };
+
+inline void PrintTo(const FirstUse& use, std::ostream* out)
+{
+    *out << use.name;
+}
 
 /// Everything of the two libraries that is made on first use: each table, and what others below them make.
 const std::vector<FirstUse>& firstUses();
