@@ -119,8 +119,8 @@ std::vector<std::shared_ptr<CKey>> readKeys(io::binary_stream_tt& stream)
 
 } // namespace
 
-CKeySet::CKeySet(CKeySetId id, ECryptAlgs alg, EKeySetUsageRole role, CUniString hint, lin::lin_filetime_t creationTime,
-                 std::vector<std::shared_ptr<CKey>> keys)
+CKeySet::CKeySet(const CKeySetId& id, ECryptAlgs alg, EKeySetUsageRole role, CUniString hint,
+                 lin::lin_filetime_t creationTime, std::vector<std::shared_ptr<CKey>> keys)
     : m_id(id), m_alg(alg), m_role(role), m_hint(std::move(hint)), m_creationTime(creationTime), m_keys(std::move(keys))
 {
     checkKeyCount(m_keys.size());

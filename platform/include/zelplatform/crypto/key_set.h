@@ -25,8 +25,8 @@ public:
     static constexpr std::size_t MaxKeys = 4096;
 
     /// Throws for more than 4096 keys, for an empty pointer among them and for nanoseconds above 999,999,999.
-    CKeySet(CKeySetId id, ECryptAlgs alg, EKeySetUsageRole role, CUniString hint, lin::lin_filetime_t creationTime,
-            std::vector<std::shared_ptr<CKey>> keys);
+    CKeySet(const CKeySetId& id, ECryptAlgs alg, EKeySetUsageRole role, CUniString hint,
+            lin::lin_filetime_t creationTime, std::vector<std::shared_ptr<CKey>> keys);
 
     const CKeySetId& GetId() const noexcept { return m_id; }
     ECryptAlgs GetAlg() const noexcept { return m_alg; }

@@ -16,9 +16,10 @@ class ZELPLATFORM_API CEvpPrivateKey
 {
 public:
     /// Reads the first private key (PKCS#8 or the older form of its kind, not encrypted) of a text of at most 1 MiB;
-    /// all around it is passed over. Line breaks may have become blanks or may be missing. Copies made on the way are
-    /// erased. Throws, without quoting the text, when there is no complete pair of BEGIN and END, when there are more
-    /// than 64 KiB between them, or not one key.
+    /// all around it is passed over. Line breaks may have become blanks or may be missing. Our own copies made on the
+    /// way are erased; OpenSSL's decoders leave some of theirs in memory that they release. Throws, without quoting the
+    /// text, when there is no complete pair of BEGIN and END, when there are more than 64 KiB between them, or not one
+    /// key.
     static std::shared_ptr<CEvpPrivateKey> FromPem(const std::string& pem);
 
     /// OpenSSL's key, owned by this object.
