@@ -29,6 +29,8 @@ TEST(TimeSpanExTest, RefusesSpansThatDoNotFit)
               "The product of [2562047788015216] and [3600] is out of range.");
     EXPECT_EQ(failureText([] { CTimeSpanEx::fromDays(-Longest); }),
               "The product of [-9223372036854775807] and [86400] is out of range.");
+    EXPECT_EQ(failureText([] { CTimeSpanEx::fromDays(Longest); }),
+              "The product of [9223372036854775807] and [86400] is out of range.");
 }
 
 TEST(TimeSpanExTest, ComparesBySeconds)
@@ -72,8 +74,13 @@ TEST(TimeSpanExTest, RefusesTextsThatDoNotFit)
               "Failed convert time span to string using format [" + tooLong + "].");
     EXPECT_EQ(failureText([] { (void)CTimeSpanEx(0).toStdString(""); }),
               "Failed convert time span to string using format [].");
-    EXPECT_EQ(failureText([] { (void)CTimeSpanEx(Longest).toStdString("%H"); }),
-              "Failed to convert UNIX time to struct tm.");
+    // The last second of the last year whose number fits into the fields of a time.
+    EXPECT_EQ(CTimeSpanEx(67768036191676799).toStdString("%H:%M:%S"), "23:59:59");
+    for (const long seconds : {67768036191676800, Longest})
+    {
+        EXPECT_EQ(failureText([seconds] { (void)CTimeSpanEx(seconds).toStdString("%H"); }),
+                  "Failed to convert UNIX time to struct tm.");
+    }
 }
 
 } // namespace
