@@ -292,6 +292,21 @@ TEST(XmlHostile, AttributesAreLimited)
     expectRefused("<a><b" + attributes(129, value) + "></b></a>");
 }
 
+TEST(XmlHostile, ElementsAreLimited)
+{
+    EXPECT_EQ(1048576U, CXmlDocument::MaxElements);
+    for (const std::string element : {"<b/>", "<b>x</b>", "x<b/>", "<!---->", "<![CDATA[]]>"})
+    {
+        std::string most = "<a>";
+        for (std::size_t number = 1; number < CXmlDocument::MaxElements; ++number)
+            most += element;
+        EXPECT_NO_THROW(CXmlDocument::Unserialize(most + "</a>")) << element;
+        EXPECT_EQ("Unable to parse XML at line 2: [too many elements].",
+                  failureText([&] { CXmlDocument::Unserialize(most + "\n" + element + "</a>"); }))
+            << element;
+    }
+}
+
 TEST(XmlHostile, HundredThousandAttributesAreRefusedQuickly)
 {
     const std::string many = attributes(100000);

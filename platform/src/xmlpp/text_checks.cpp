@@ -17,7 +17,7 @@ namespace
 
 constexpr TextFault NoFault{};
 
-// An element with too many attributes does not fit into a text shorter than this.
+// Neither an element with too many attributes nor too many elements cost much in a text shorter than this.
 constexpr std::size_t ShortTextSize = 16 * 1024;
 
 constexpr unsigned long LastCharacter = 0x10FFFF;
@@ -192,15 +192,20 @@ TextFault findBadReference(std::string_view text) noexcept
     return NoFault;
 }
 
-// The parser looks for a duplicate of each attribute along the whole list, so a long list costs quadratic time.
-TextFault findCrowdedElement(std::string_view text) noexcept
+// The parser looks for a duplicate of each attribute along the whole list, so a long list costs quadratic time. Each
+// element becomes an object of some 100 bytes, which readers walk past again and again.
+TextFault findCrowd(std::string_view text) noexcept
 {
+    std::size_t elements = 0;
     for (std::size_t at = 0; at < text.size();)
     {
         unsigned values = 0;
         const auto end = isTagAt(text, at) ? endOfTag(text, at + 1, values) : stretchAt(text, at).end;
         if (values > CXmlDocument::MaxAttributes)
             return {"too many attributes", at};
+        elements += text[at] == '<' && text.substr(at, 2) != "</" ? 1 : 0;
+        if (elements > CXmlDocument::MaxElements)
+            return {"too many elements", at};
         at = end;
     }
     return NoFault;
@@ -246,7 +251,7 @@ TextFault findTextFault(std::string_view text)
         return fault;
     if (const auto fault = findForeignEncoding(text); fault.reason != nullptr)
         return fault;
-    return text.size() > ShortTextSize ? findCrowdedElement(text) : NoFault;
+    return text.size() > ShortTextSize ? findCrowd(text) : NoFault;
 }
 
 std::size_t countEndTags(std::string_view text) noexcept

@@ -14,8 +14,8 @@ struct TextFault
 };
 
 /// Looks for what the parser would pass over in silence or spend quadratic time on: NUL and other control characters,
-/// references to characters that XML does not have, foreign encodings, texts that are too long, elements with too many
-/// attributes.
+/// references to characters that XML does not have, foreign encodings, texts that are too long, too many elements, and
+/// too many attributes of one.
 TextFault findTextFault(std::string_view text);
 
 /// How often "</" stands in the text: at least as often as there are end tags.

@@ -1,5 +1,7 @@
 #include "hostile_input.h"
 
+#include <algorithm>
+
 #include <zelmodel/job_options.h>
 #include <zelmodel/transforms.h>
 #include <zelplatform/xmlpp/xml_document.h>
@@ -23,6 +25,17 @@ HostileInput made(const std::string& name, const std::string& start, const std::
                   const std::string& end = {})
 {
     return {name, [=](std::size_t size) { return start + repeated(piece, size) + end; }, takingOrRefusing(readJob)};
+}
+
+/// As many pieces as a document may have, and no more.
+HostileInput most(const std::string& name, const std::string& piece)
+{
+    constexpr std::size_t count = xmlpp::CXmlDocument::MaxElements - 1;
+    return {name,
+            [=](std::size_t size) {
+                return "<JobOptions>" + repeated(piece, std::min(size, count * piece.size())) + "</JobOptions>";
+            },
+            takingOrRefusing(readJob)};
 }
 
 /// The shortest names that differ: a, b, ... z, aa, ab, ...
@@ -87,6 +100,10 @@ std::vector<HostileInput> hostileMarkup()
         made("empty elements", "<JobOptions>", "<a/>", "</JobOptions>"),
         made("pairs of tags", "<JobOptions>", "<a></a>", "</JobOptions>"),
         made("elements at the top", "<JobOptions/>", "<a/>"),
+        most("the most empty elements", "<a/>"),
+        most("the most pairs of tags", "<a></a>"),
+        most("the most texts between elements", "x<a/>"),
+        most("the most comments", "<!---->"),
         made("schedules", "<JobOptions>", "<Schedule/>", "</JobOptions>"),
         made("end tags", "<JobOptions/>", "</a>"),
         made("an end tag too many", "<JobOptions>", "<a></a>", "</JobOptions></JobOptions>"),

@@ -1,5 +1,6 @@
 #include "hostile_input.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <zelmodel/data_size.h>

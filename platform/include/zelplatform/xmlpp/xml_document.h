@@ -21,14 +21,17 @@ public:
     /// cannot hold enough to matter.
     static constexpr unsigned MaxAttributes = 128;
 
+    /// The most elements of a text, comments and the like included: a list of a million identifiers fits.
+    static constexpr std::size_t MaxElements = 1UL << 20;
+
     /// An empty document.
     CXmlDocument();
 
     /// Reads a text. Refused with "Unable to parse XML at line %2: [%1].": malformed text, text without an element or
-    /// with text at the top, one that is too large, too deep (98 levels are the most) or has too many attributes on an
-    /// element, a NUL byte or another control character but tab, CR and LF, a malformed character reference or one to a
-    /// character that XML does not have, a second declaration, and a declared encoding other than UTF-8 and US-ASCII.
-    /// Bytes that are no UTF-8 pass unchanged.
+    /// with text at the top, one that is too large, too deep (98 levels are the most) or has too many elements or too
+    /// many attributes on one, a NUL byte or another control character but tab, CR and LF, a malformed character
+    /// reference or one to a character that XML does not have, a second declaration, and a declared encoding other than
+    /// UTF-8 and US-ASCII. Bytes that are no UTF-8 pass unchanged.
     static CXmlDocument Unserialize(const std::string& text);
 
     /// The document as text; with the flag an XML declaration comes first. No white space is added. Line breaks and
