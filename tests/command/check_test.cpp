@@ -8,6 +8,7 @@
 
 #include "show_case.h"
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
@@ -16,6 +17,7 @@ using zelmodel_test::example;
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandInto;
 using zelmodel_test::runCommandOnTerminal;
+using zelmodel_test::TemporaryFolder;
 
 using Arguments = std::vector<std::string>;
 
@@ -196,6 +198,28 @@ TEST(Check, IgnoredValuesAreNotTold)
     const auto result = runCommand({"check", "-", "--reveal"}, "<JobOptions Password='c4n4ry'>c4n4ry</JobOptions>");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output.find("c4n4ry"), std::string::npos);
+}
+
+TEST(Check, WhatIsTooLongForADocumentIsAFindingWithoutALine)
+{
+    const TemporaryFolder folder;
+    const auto name = folder.write("large.xml", "");
+    std::filesystem::resize_file(name, 268435457);
+    const std::string sentence = "The document is larger than 268435456 bytes.";
+
+    const auto result = runCommand({"check", name});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.messages, "");
+    EXPECT_EQ(result.output, name + ": refused: " + sentence + " [malformed-document]\n    " + sentence + '\n');
+
+    const auto listed = nlohmann::json::parse(runCommand({"check", name, "--json"}).output);
+    const auto& finding = listed.at("files").at(0).at("findings").at(0);
+    EXPECT_EQ(finding.at("text"), sentence);
+    EXPECT_EQ(finding.count("line"), 0U);
+    const auto sarif = nlohmann::json::parse(runCommand({"check", name, "--sarif"}).output);
+    const auto& place = sarif.at("runs").at(0).at("results").at(0).at("locations").at(0).at("physicalLocation");
+    EXPECT_EQ(place.at("artifactLocation").at("uri"), name);
+    EXPECT_EQ(place.count("region"), 0U);
 }
 
 TEST(CheckJson, ListsTheFindingsOfEachFile)

@@ -93,6 +93,18 @@ TEST_F(ConvertInPlace, NoBackupIsEverOverwritten)
     EXPECT_EQ(names(), (Names{"job.xml", "job.xml.orig", "job.xml.orig.1", "job.xml.orig.2"}));
 }
 
+TEST_F(ConvertInPlace, AfterTenThousandBackupsNothingIsReplaced)
+{
+    write("job.xml.orig", "");
+    for (int number = 1; number < 10000; ++number)
+        fs::create_hard_link(path("job.xml.orig"), path("job.xml.orig." + std::to_string(number)));
+    const auto result = runCommand({"convert", "--in-place", path("job.xml")});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_EQ(result.messages, path("job.xml") + ": cannot be replaced: there are too many backups of it\n");
+    EXPECT_EQ(read("job.xml"), example(Old));
+    EXPECT_EQ(names().size(), 10001U) << "the new file is gone";
+}
+
 TEST_F(ConvertInPlace, TheCurrentFormIsLeftAlone)
 {
     write("job.xml", Current);

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "binary_pieces.h"
 #include "support/run_command.h"
@@ -91,6 +92,19 @@ TEST(DumpJson, TellsTheSameAsTheTable)
   }
 }
 )");
+}
+
+TEST(DumpJson, HoldsTheDocumentInsideAsATree)
+{
+    const auto result = runCommand({"dump", "binary/schedule-options.b64", "--json"});
+    EXPECT_EQ(result.exitCode, 0);
+    const auto text = nlohmann::json::parse(result.output).at("fields").at("text");
+    EXPECT_EQ(text.at("words"), "1269 bytes of XML");
+    const auto& start = text.at("document").at("fields").at("jobStart");
+    EXPECT_EQ(start.at("words"), "starts Every last day of every month at 23:45");
+    EXPECT_EQ(start.at("fields").at("time").at("value"), "23:45");
+    // A number holds no document.
+    EXPECT_EQ(nlohmann::json::parse(result.output).at("fields").at("scheduleType").count("document"), 0U);
 }
 
 TEST(DumpJson, HidesSecrets)
