@@ -35,14 +35,14 @@ bool hasFolders(EIndexingType::type type) noexcept
 }
 
 // What readers from before the "Indexing" element look for.
-void writeLegacyAttribute(xmlpp::CXmlNode& owner, const SIndexingOptions& options)
+const char* legacyAttribute(EIndexingType::type type) noexcept
 {
-    if (options.type == EIndexingType::IndexAll)
-        owner.SetBoolAttribute(names::IndexAll, true);
-    if (options.type == EIndexingType::IndexOnly)
-        owner.SetAttribute(names::IndexOnly, options.folders);
-    if (options.type == EIndexingType::IndexExcept)
-        owner.SetAttribute(names::IndexExcept, options.folders);
+    switch (type)
+    {
+    case EIndexingType::IndexOnly: return names::IndexOnly;
+    case EIndexingType::IndexExcept: return names::IndexExcept;
+    default: return names::IndexAll;
+    }
 }
 
 SIndexingOptions readLegacyAttributes(const xmlpp::CXmlNode& owner)
@@ -86,9 +86,9 @@ try
     if (type == EIndexingType::IsOff)
         return;
     const auto typeName = EIndexingType::ToStr(type);
-    static constexpr const char* attributes[] = {names::IndexAll, names::IndexOnly, names::IndexExcept};
+    const char* const attributes[] = {legacyAttribute(type)};
     const xmlpp::CXmlUndo undo(owner, attributes);
-    writeLegacyAttribute(owner, *this);
+    owner.SetAttribute(attributes[0], hasFolders(type) ? folders : util::toStr(true));
     auto node = owner.AddNode(names::Indexing);
     node.SetUint64Attribute(names::Version, s_version);
     node.SetAttribute(names::Type, typeName);

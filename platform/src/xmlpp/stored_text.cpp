@@ -6,7 +6,7 @@ namespace xmlpp::detail
 {
 
 // The texts of a document are private to the parser's classes, and none of their calls keeps a text until it has the
-// next one. An explicit instantiation may name private members: these three functions give them.
+// next one. An explicit instantiation may name private members: these functions give them.
 template <class TKey, typename TKey::Member Text>
 struct Opened
 {
@@ -31,9 +31,16 @@ struct NodeValue
     friend Member memberOf(NodeValue) noexcept;
 };
 
+struct FindOrCreate
+{
+    using Member = tinyxml2::XMLAttribute* (tinyxml2::XMLElement::*)(const char*);
+    friend Member memberOf(FindOrCreate) noexcept;
+};
+
 template struct Opened<AttributeName, &tinyxml2::XMLAttribute::_name>;
 template struct Opened<AttributeValue, &tinyxml2::XMLAttribute::_value>;
 template struct Opened<NodeValue, &tinyxml2::XMLNode::_value>;
+template struct Opened<FindOrCreate, &tinyxml2::XMLElement::FindOrCreateAttribute>;
 
 namespace
 {
@@ -53,7 +60,7 @@ void replace(tinyxml2::StrPair& stored, const char* text)
     next.TransferTo(&stored);
 }
 
-/// Takes an attribute back that could not be finished. It is the last one, and has no name yet when its name was what
+/// Takes an attribute back that could not be finished: it has no value yet, and no name either when its name was what
 /// there was no memory for.
 class AddedAttribute
 {
@@ -64,19 +71,25 @@ public:
 
     ~AddedAttribute()
     {
-        if (m_isFinished)
-            return;
-        for (const auto* at = m_element.FirstAttribute(); at != nullptr; at = at->Next())
-        {
-            if (at->Name() == nullptr)
-                stored(*at, AttributeName()).SetInternedStr(m_name);
-        }
-        m_element.DeleteAttribute(m_name);
+        if (!m_isFinished)
+            takeBack();
     }
 
     void finish() noexcept { m_isFinished = true; }
 
 private:
+    void takeBack() noexcept
+    {
+        const auto* at = m_element.FirstAttribute();
+        while (at != nullptr && at->Value() != nullptr)
+            at = at->Next();
+        if (at == nullptr)
+            return;
+        if (at->Name() == nullptr)
+            stored(*at, AttributeName()).SetInternedStr(m_name);
+        m_element.DeleteAttribute(m_name);
+    }
+
     tinyxml2::XMLElement& m_element;
     const char* m_name;
     bool m_isFinished = false;
@@ -94,20 +107,19 @@ void setName(tinyxml2::XMLElement& element, const char* name)
     replace(element.*memberOf(NodeValue()), name);
 }
 
-void setValue(const tinyxml2::XMLAttribute& attribute, const char* value)
-{
-    replace(valueOf(attribute), value);
-}
-
 void setText(tinyxml2::XMLText& node, const char* text)
 {
     replace(node.*memberOf(NodeValue()), text);
 }
 
-void addAttribute(tinyxml2::XMLElement& element, const char* name, const char* value)
+void setAttribute(tinyxml2::XMLElement& element, const char* name, const char* value)
 {
     AddedAttribute added(element, name);
-    element.SetAttribute(name, value);
+    auto& former = valueOf(*(element.*memberOf(FindOrCreate()))(name));
+    if (former.GetStr() != nullptr)
+        replace(former, value);
+    else
+        former.SetStr(value);
     added.finish();
 }
 

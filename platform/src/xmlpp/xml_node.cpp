@@ -311,11 +311,7 @@ std::string CXmlNode::GetInnerText() const
 
 void CXmlNode::setAttributeText(CXmlName name, const char* value)
 {
-    auto& owner = element();
-    if (const auto* attribute = findNamed(owner.FirstAttribute(), nullptr, name))
-        detail::setValue(*attribute, value);
-    else
-        detail::addAttribute(owner, name.c_str(), value);
+    detail::setAttribute(element(), name.c_str(), value);
 }
 
 void CXmlNode::SetName(CXmlName name)
