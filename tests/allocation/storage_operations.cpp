@@ -74,6 +74,8 @@ Operations containerOperations()
     };
     return changing<Container>("SExternalRepoCloudContainer", container, tellContainer, {{"assignedCopy", copied}},
                                EGuarantee::Valid) +
+           changing<Container>("SExternalRepoCloudContainer", container, tellContainer,
+                               {{"assignedWhole", [other](Container& target) { target = Container(other()); }}}) +
            asking<Container>("SExternalRepoCloudContainer", container,
                              {{"Serialize", [](const Container& made) { return made.Serialize(); }},
                               {"copy", [](const Container& made) { return tellContainer(Container(made)); }},

@@ -43,7 +43,7 @@ inline XmlTarget writtenElement(const WriteXml& write)
     return target;
 }
 
-/// The writer into an element that it has not seen, into one that it wrote into before, and into a document.
+/// The writer into an element that it has not seen, and into one that it wrote into before.
 inline Operations writing(const std::string& name, const WriteXml& write)
 {
     return changing<XmlTarget>(name, ownElement, tellXml,

@@ -71,11 +71,24 @@ Operations storageWriters()
                    toXml(SObjectStorageImmutabilitySettings::CreateDisabled()));
 }
 
+// At the top of a document, beside an element of the caller.
+Operations topWriters()
+{
+    const auto make = [] {
+        const auto document = xmlpp::CXmlDocument::Unserialize("<Own/>");
+        return XmlTarget{document, document.ToNode()};
+    };
+    return changing<XmlTarget>(
+        "top", make, tellXml,
+        {{"SBackupJobOptions.toXml", [job = fullJob()](XmlTarget& target) { job.toXml(target.node); }},
+         {"SAmazonS3SpecificParams.ToXmlNode", [s3 = fullS3()](XmlTarget& target) { s3.ToXmlNode(target.node); }}});
+}
+
 } // namespace
 
 Operations xmlWriterOperations()
 {
-    return scheduleWriters() + policyWriters() + jobWriters() + storageWriters();
+    return topWriters() + scheduleWriters() + policyWriters() + jobWriters() + storageWriters();
 }
 
 } // namespace zelmodel_test
