@@ -284,12 +284,29 @@ TEST(XmlHostile, DeepNestingIsRefusedQuickly)
 
 TEST(XmlHostile, AttributesAreLimited)
 {
-    EXPECT_EQ(128U, CXmlDocument::MaxAttributes);
-    const std::string value(200, 'v');
+    EXPECT_EQ(1024U, CXmlDocument::MaxAttributes);
+    const std::string value(20, 'v');
     EXPECT_EQ(value,
-              CXmlDocument::Unserialize("<a" + attributes(128, value) + "/>").GetRootNode().GetAttribute("a127"));
-    expectRefused("<a" + attributes(129, value) + "/>");
-    expectRefused("<a><b" + attributes(129, value) + "></b></a>");
+              CXmlDocument::Unserialize("<a" + attributes(1024, value) + "/>").GetRootNode().GetAttribute("a1023"));
+    expectRefused("<a" + attributes(1025, value) + "/>");
+    expectRefused("<a><b" + attributes(1025, value) + "></b></a>");
+}
+
+TEST(XmlHostile, ATextFullOfAttributesIsLimitedByItsSize)
+{
+    const auto textOf = [](int count, int elements) {
+        std::string text = "<a>";
+        for (int i = 0; i < elements; ++i)
+            text += "<b" + attributes(count) + "/>";
+        return text + "</a>";
+    };
+    EXPECT_NO_THROW(CXmlDocument::Unserialize(textOf(20, 10000)));
+    EXPECT_NO_THROW(CXmlDocument::Unserialize(textOf(80, 2000)));
+    EXPECT_NO_THROW(CXmlDocument::Unserialize(textOf(1024, 2)));
+    EXPECT_EQ("Unable to parse XML at line 1: [too many attributes].",
+              failureText([&] { CXmlDocument::Unserialize(textOf(1024, 3)); }));
+    EXPECT_EQ("Unable to parse XML at line 1: [too many attributes].",
+              failureText([&] { CXmlDocument::Unserialize(textOf(400, 2000)); }));
 }
 
 TEST(XmlHostile, ElementsAreLimited)

@@ -20,6 +20,11 @@ constexpr TextFault NoFault{};
 // Neither an element with too many attributes nor too many elements cost much in a text shorter than this.
 constexpr std::size_t ShortTextSize = 16 * 1024;
 
+// How many comparisons of names the parser may spend on duplicate attributes: enough for one element with the most of
+// them, and for elements of 80 in texts of any size.
+constexpr std::size_t ComparisonsOfAnyText = 1UL << 20;
+constexpr std::size_t ComparisonsPerByte = 8;
+
 constexpr unsigned long LastCharacter = 0x10FFFF;
 
 bool isControl(unsigned long code) noexcept
@@ -196,14 +201,17 @@ TextFault findBadReference(std::string_view text) noexcept
 // element becomes an object of some 100 bytes, which readers walk past again and again.
 TextFault findCrowd(std::string_view text) noexcept
 {
+    const std::size_t mostComparisons = ComparisonsOfAnyText + ComparisonsPerByte * text.size();
     std::size_t elements = 0;
+    std::size_t comparisons = 0;
     for (std::size_t at = 0; at < text.size();)
     {
         unsigned values = 0;
         const auto end = isTagAt(text, at) ? endOfTag(text, at + 1, values) : stretchAt(text, at).end;
-        if (values > CXmlDocument::MaxAttributes)
+        comparisons += std::size_t{values} * values / 2;
+        if (values > CXmlDocument::MaxAttributes || comparisons > mostComparisons)
             return {"too many attributes", at};
-        elements += text[at] == '<' && text.substr(at, 2) != "</" ? 1 : 0;
+        elements += text[at] == '<' && text.substr(at, 2) != "</" ? 1U : 0U;
         if (elements > CXmlDocument::MaxElements)
             return {"too many elements", at};
         at = end;

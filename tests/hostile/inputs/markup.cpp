@@ -87,6 +87,7 @@ std::vector<HostileInput> hostileMarkup()
          job},
         {"elements with the most attributes",
          [](std::size_t size) { return elementsWith(xmlpp::CXmlDocument::MaxAttributes, size); }, job},
+        {"elements with the most attributes of any size", [](std::size_t size) { return elementsWith(80, size); }, job},
         {"elements with 1000 attributes", [](std::size_t size) { return elementsWith(1000, size); }, job},
         made("10,000 levels", "<JobOptions>" + repeated("<a>", 30000), repeated("</a>", 40000)),
         {"start tags", deep("<a>"), job},

@@ -16,10 +16,10 @@ public:
     /// The longest text that is read, in bytes.
     static constexpr std::size_t MaxTextSize = 256UL * 1024 * 1024;
 
-    /// The most attributes that one element of a text may have: several times what documents have, and few enough that
-    /// a text full of such elements is read in bounded time. Looked at in texts of more than 16 KiB only, shorter ones
-    /// cannot hold enough to matter.
-    static constexpr unsigned MaxAttributes = 128;
+    /// The most attributes that one element of a text may have. A text full of elements of more than 80 is refused too:
+    /// looking for duplicates would cost more than reading. Documents have about 20. Looked at in texts of more than
+    /// 16 KiB only, shorter ones cannot hold enough to matter.
+    static constexpr unsigned MaxAttributes = 1024;
 
     /// The most elements of a text, comments and the like included: a list of a million identifiers fits.
     static constexpr std::size_t MaxElements = 1UL << 20;
