@@ -10,6 +10,7 @@ function(zel_add_test_support)
     add_library(test_support STATIC ${sources})
     target_include_directories(test_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/model)
     target_compile_definitions(test_support PUBLIC
+        ZELMODEL_CORPUS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/corpus"
         ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
         ZELMODEL_FAULTS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/faults"
         ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
@@ -19,6 +20,10 @@ function(zel_add_test_support)
     # Neither are they instrumented: it is the library and the tools that are watched, and what they do to the heap.
     if(ZELMODEL_SANITIZE MATCHES address)
         target_compile_options(test_support PUBLIC -fno-sanitize=all)
+    endif()
+    # A sanitizer has functions of memory of its own, which no test may replace.
+    if(ZELMODEL_SANITIZE)
+        target_compile_definitions(test_support PUBLIC ZELMODEL_TEST_SANITIZED)
     endif()
     target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog OpenSSL::Crypto
         tinyxml2::tinyxml2)

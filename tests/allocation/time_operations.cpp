@@ -74,7 +74,7 @@ std::vector<Question<Nothing>> freeQuestions()
         {"set_clock_for_tests",
          [](const Nothing&) {
              const long hour = 3600;
-             datetime::set_clock_for_tests([hour] { return hour; }, nullptr);
+             datetime::set_clock_for_tests([] { return hour; }, nullptr);
              const auto now = datetime::clock_now();
              datetime::set_clock_for_tests(nullptr, nullptr);
              return util::toStr(now);

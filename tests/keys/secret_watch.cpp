@@ -10,14 +10,6 @@
 
 #include <malloc.h>
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define ZELMODEL_TEST_SANITIZED
-#endif
-#elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define ZELMODEL_TEST_SANITIZED
-#endif
-
 namespace
 {
 

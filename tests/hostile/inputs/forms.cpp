@@ -17,7 +17,7 @@ std::string little(std::uint64_t value, std::size_t width)
 {
     std::string bytes;
     for (std::size_t i = 0; i < width; ++i)
-        bytes += static_cast<char>(static_cast<unsigned char>(value >> 8 * i));
+        bytes += static_cast<char>(static_cast<unsigned char>(i < sizeof(value) ? value >> 8 * i : 0));
     return bytes;
 }
 
