@@ -1,9 +1,6 @@
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <set>
-#include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +10,7 @@
 
 #include "show_case.h"
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
@@ -22,8 +20,9 @@ namespace fs = std::filesystem;
 using zelmodel_test::example;
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandInto;
+using zelmodel_test::TemporaryFolder;
 
-using Names = std::set<std::string>;
+using Names = std::vector<std::string>;
 
 constexpr const char* Old = "older/job-state-version-1.xml";
 constexpr const char* Current = "<BackupJobState Version=\"2\" ObjectStorageOperationMode=\"3\"/>\n";
@@ -32,34 +31,15 @@ constexpr const char* Current = "<BackupJobState Version=\"2\" ObjectStorageOper
 class ConvertInPlace : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        std::string name = testing::TempDir() + "zelmodel-in-place-XXXXXX";
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        m_folder = name;
-        write("job.xml", example(Old));
-    }
+    void SetUp() override { write("job.xml", example(Old)); }
 
-    void TearDown() override { fs::remove_all(m_folder); }
+    std::string path(const std::string& name) const { return m_folder / name; }
 
-    std::string path(const std::string& name) const { return (m_folder / name).string(); }
+    void write(const std::string& name, const std::string& text) const { m_folder.write(name, text); }
 
-    void write(const std::string& name, const std::string& text) const { std::ofstream(path(name)) << text; }
+    std::string read(const std::string& name) const { return m_folder.text(name); }
 
-    std::string read(const std::string& name) const
-    {
-        std::ostringstream text;
-        text << std::ifstream(path(name)).rdbuf();
-        return text.str();
-    }
-
-    Names names() const
-    {
-        Names found;
-        for (const auto& entry : fs::directory_iterator(m_folder))
-            found.insert(entry.path().filename().string());
-        return found;
-    }
+    Names names() const { return m_folder.names(); }
 
     static struct stat statusOf(const std::string& file)
     {
@@ -68,7 +48,7 @@ protected:
         return status;
     }
 
-    fs::path m_folder;
+    TemporaryFolder m_folder;
 };
 
 TEST_F(ConvertInPlace, KeepsTheOldFile)

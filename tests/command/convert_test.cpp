@@ -1,6 +1,5 @@
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -10,6 +9,7 @@
 
 #include "show_case.h"
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
@@ -18,6 +18,7 @@ using zelmodel_test::acceptedExamples;
 using zelmodel_test::example;
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandOnTerminal;
+using zelmodel_test::TemporaryFolder;
 
 struct ConvertCase
 {
@@ -227,10 +228,9 @@ TEST(ConvertOnATerminal, ADocumentWithSecretsIsNotShown)
 
 TEST(ConvertOnATerminal, ControlCharactersAreShownNotSent)
 {
-    const auto path = testing::TempDir() + "zelmodel-convert-control.xml";
-    std::ofstream(path) << "<MountSessionDetails MountPoint=\"\xc2\x9b\xff\" OibId=\"\"/>";
+    const TemporaryFolder folder;
+    const auto path = folder.write("control.xml", "<MountSessionDetails MountPoint=\"\xc2\x9b\xff\" OibId=\"\"/>");
     const auto result = runCommandOnTerminal({"convert", path}, 200);
-    std::filesystem::remove(path);
     EXPECT_EQ(result.output, "<MountSessionDetails MountPoint=\"\\x9b\\xff\" "
                              "OibId=\"00000000-0000-0000-0000-000000000000\"/>\r\n"
                              "Written with another text: attribute OibId of MountSessionDetails (line 1)\r\n");

@@ -1,5 +1,3 @@
-#include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -9,6 +7,7 @@
 
 #include "show_case.h"
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
@@ -17,6 +16,7 @@ using zelmodel_test::acceptedExamples;
 using zelmodel_test::example;
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandOnTerminal;
+using zelmodel_test::TemporaryFolder;
 
 struct DiffCase
 {
@@ -149,10 +149,8 @@ TEST(DiffText, LayoutAndOrderPlayNoPart)
 TEST(DiffText, AliasesAndVariantsOfNamesPlayNoPart)
 {
     const auto expectSame = [](const std::string& first, const std::string& second) {
-        const auto path = testing::TempDir() + "zelmodel-diff-names.xml";
-        std::ofstream(path) << first;
-        const auto result = runCommand({"diff", path, "-"}, second);
-        std::filesystem::remove(path);
+        const TemporaryFolder folder;
+        const auto result = runCommand({"diff", folder.write("first.xml", first), "-"}, second);
         EXPECT_EQ(result.exitCode, 0) << first << result.output << result.messages;
         EXPECT_EQ(result.output, "") << first;
     };
@@ -184,10 +182,9 @@ TEST(DiffText, ItemsOfAListAreFoundAgain)
     const std::string b = "<Guid value='bbbbbbbb-0000-0000-0000-000000000000'/>";
     const std::string c = "<Guid value='cccccccc-0000-0000-0000-000000000000'/>";
     const std::string after = "</LastIncrementPointIds></FullTransformSpec>";
-    const auto path = testing::TempDir() + "zelmodel-diff-points.xml";
-    std::ofstream(path) << before + a + b + c + after;
+    const TemporaryFolder folder;
+    const auto path = folder.write("first.xml", before + a + b + c + after);
     const auto result = runCommand({"diff", path, "-"}, before + b + c + a + after);
-    std::filesystem::remove(path);
     EXPECT_EQ(result.output, "Last increments / 1: only in " + path +
                                  ": aaaaaaaa-0000-0000-0000-000000000000 (line 1)\n"
                                  "Last increments / 3: only in standard input: "

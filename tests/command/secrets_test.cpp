@@ -1,5 +1,4 @@
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -7,12 +6,14 @@
 #include <gtest/gtest.h>
 
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
 
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandOnTerminal;
+using zelmodel_test::TemporaryFolder;
 
 constexpr const char* Canary = "c4n4ry";
 
@@ -173,8 +174,8 @@ TEST_P(Secrets, StandInNoRefusalOfWhatAsksForASchedule)
 TEST_P(Secrets, StandInNoDifference)
 {
     auto text = textOf(GetParam().pieces);
-    const auto path = testing::TempDir() + "zelmodel-secrets-" + GetParam().name + ".xml";
-    std::ofstream(path) << text;
+    const TemporaryFolder folder;
+    const auto path = folder.write("first.xml", text);
     for (auto at = text.find(Canary); at != std::string::npos; at = text.find(Canary, at + 1))
         text.insert(at + std::string(Canary).size(), "-another");
     for (const auto* option : {"--no-color", "--json"})
@@ -184,7 +185,6 @@ TEST_P(Secrets, StandInNoDifference)
         EXPECT_EQ(countOfHidden(result.output), 2 * GetParam().hidden) << result.output;
         EXPECT_EQ(result.output.find(Canary), std::string::npos) << result.output;
     }
-    std::filesystem::remove(path);
 }
 
 /// The converted document holds them, as it must; nothing else does.

@@ -1,13 +1,11 @@
-#include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include "support/run_command.h"
+#include "support/temporary_folder.h"
 
 namespace
 {
@@ -15,6 +13,7 @@ namespace
 using zelmodel_test::runCommand;
 using zelmodel_test::runCommandInto;
 using zelmodel_test::runCommandOnTerminal;
+using zelmodel_test::TemporaryFolder;
 
 using Arguments = std::vector<std::string>;
 
@@ -127,13 +126,10 @@ TEST(CannotWrite, AFullDeviceIsTold)
 
 TEST(TooLarge, AFileIsRefusedBeforeItIsRead)
 {
-    std::string name = testing::TempDir() + "zelmodel-large-XXXXXX";
-    const int file = ::mkstemp(name.data());
-    ASSERT_GE(file, 0);
-    ASSERT_EQ(::ftruncate(file, 268435457), 0);
+    const TemporaryFolder folder;
+    const auto name = folder.write("large.xml", "");
+    std::filesystem::resize_file(name, 268435457);
     const auto result = runCommand({"show", name});
-    ::close(file);
-    ::unlink(name.c_str());
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.messages, name + ": refused\n  The document is larger than 268435456 bytes.\n");
 }
