@@ -88,11 +88,11 @@ int calendar(const Arguments& arguments, Session& session)
 
 void addCalendar(Dispatcher& commands)
 {
-    auto& command = commands.define("calendar", "Show when a job starts as a calendar, or a window as a picture");
     const auto arguments = std::make_shared<Arguments>();
+    auto command = commands.define("calendar", "Show when a job starts as a calendar, or a window as a picture",
+                                   [arguments](Session& session) { return calendar(*arguments, session); });
     addScheduleArguments(command, arguments->documents);
-    auto* month = addMonthOption(command, "--month", arguments->month, "The month; that of today unless given");
-    addYearOption(command, "--year", arguments->year, "A whole year")->excludes(month);
-    command.callback([arguments] { checkScheduleArguments(arguments->documents); });
-    commands.setWork(command, [arguments](Session& session) { return calendar(*arguments, session); });
+    addMonthOption(command, "--month", arguments->month, "The month; that of today unless given");
+    addYearOption(command, "--year", arguments->year, "A whole year").excludes("--month");
+    command.check([arguments] { checkScheduleArguments(arguments->documents); });
 }

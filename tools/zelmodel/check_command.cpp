@@ -109,19 +109,18 @@ void checkArguments(const Arguments& arguments)
     const auto inputs = std::count(arguments.files.begin(), arguments.files.end(), StandardInput) +
                         (arguments.window == StandardInput ? 1 : 0);
     if (inputs > 1)
-        throw CLI::ValidationError("FILE", "Standard input can be read only once");
+        throw UsageError("FILE", "Standard input can be read only once");
 }
 
 } // namespace
 
 void addCheck(Dispatcher& commands)
 {
-    auto& command = commands.define("check", "Find everything that is wrong with documents");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("FILE", arguments->files, "Documents of any kind; - is standard input")->required();
-    command.add_option("--window", arguments->window, "The backup window that the jobs are to run in")
-        ->type_name("FILE");
-    command.add_flag("--sarif", arguments->isSarif, "Print the findings in the format SARIF 2.1.0")->excludes("--json");
-    command.callback([arguments] { checkArguments(*arguments); });
-    commands.setWork(command, [arguments](Session& session) { return checkFiles(*arguments, session); });
+    auto command = commands.define("check", "Find everything that is wrong with documents",
+                                   [arguments](Session& session) { return checkFiles(*arguments, session); });
+    command.add("FILE", arguments->files, "Documents of any kind; - is standard input").required();
+    command.add("--window", arguments->window, "The backup window that the jobs are to run in").typeName("FILE");
+    command.addFlag("--sarif", arguments->isSarif, "Print the findings in the format SARIF 2.1.0").excludes("--json");
+    command.check([arguments] { checkArguments(*arguments); });
 }

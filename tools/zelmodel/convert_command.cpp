@@ -111,18 +111,16 @@ int convert(const Arguments& arguments, Session& session)
 
 void addConvert(Dispatcher& commands)
 {
-    auto& command = commands.define("convert", "Write a document of any form in the current form of the agent");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("FILE", arguments->file, "A document; - is standard input")->required();
-    auto* const output =
-        command
-            .add_option("-o,--output", arguments->output, "A new file for the document; standard output unless given")
-            ->type_name("FILE");
-    command.add_flag("--in-place", arguments->isInPlace, "Replace the file, and keep the old one as FILE.orig")
-        ->excludes(output);
-    command.callback([arguments] {
+    auto command = commands.define("convert", "Write a document of any form in the current form of the agent",
+                                   [arguments](Session& session) { return convert(*arguments, session); });
+    command.add("FILE", arguments->file, "A document; - is standard input").required();
+    command.add("-o,--output", arguments->output, "A new file for the document; standard output unless given")
+        .typeName("FILE");
+    command.addFlag("--in-place", arguments->isInPlace, "Replace the file, and keep the old one as FILE.orig")
+        .excludes("--output");
+    command.check([arguments] {
         if (arguments->file == StandardInput && arguments->isInPlace)
-            throw CLI::ValidationError("--in-place", "Standard input is no file");
+            throw UsageError("--in-place", "Standard input is no file");
     });
-    commands.setWork(command, [arguments](Session& session) { return convert(*arguments, session); });
 }

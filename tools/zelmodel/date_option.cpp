@@ -32,39 +32,41 @@ try
 }
 catch (const std::exception&)
 {
-    throw CLI::ValidationError(option,
-                               "[" + text + "] is no " + form.what + " from 1400 to 9999 written as " + form.example);
+    throw UsageError(option, "[" + text + "] is no " + form.what + " from 1400 to 9999 written as " + form.example);
 }
 
 template <class T>
-CLI::Option* addOption(CLI::App& command, const Form& form, const char* name, std::optional<T>& target,
-                       const char* description)
+CommandOption addOption(CommandOptions& command, const Form& form, const char* name, std::optional<T>& target,
+                        const char* description)
 {
     return command
-        .add_option_function<std::string>(
+        .add(
             name, [&form, name, &target](const std::string& text) { target = T(parse(form, name, text)); }, description)
-        ->type_name(form.example);
+        .typeName(form.example);
 }
 
 } // namespace
 
-CLI::Option* addDateOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
+CommandOption addDateOption(CommandOptions& command, const char* name, std::optional<CDate>& target,
+                            const char* description)
 {
     return addOption(command, DateForm, name, target, description);
 }
 
-CLI::Option* addMonthOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
+CommandOption addMonthOption(CommandOptions& command, const char* name, std::optional<CDate>& target,
+                             const char* description)
 {
     return addOption(command, MonthForm, name, target, description);
 }
 
-CLI::Option* addYearOption(CLI::App& command, const char* name, std::optional<CDate>& target, const char* description)
+CommandOption addYearOption(CommandOptions& command, const char* name, std::optional<CDate>& target,
+                            const char* description)
 {
     return addOption(command, YearForm, name, target, description);
 }
 
-CLI::Option* addMomentOption(CLI::App& command, const char* name, std::optional<CDateTime>& target,
-                             const char* description)
+CommandOption addMomentOption(CommandOptions& command, const char* name, std::optional<CDateTime>& target,
+                              const char* description)
 {
     return addOption(command, MomentForm, name, target, description);
 }

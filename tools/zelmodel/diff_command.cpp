@@ -51,13 +51,13 @@ int diff(const Arguments& arguments, Session& session)
 
 void addDiff(Dispatcher& commands)
 {
-    auto& command = commands.define("diff", "Tell field by field in what two documents differ");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("A", arguments->first, "A document; - is standard input")->required();
-    command.add_option("B", arguments->second, "A document of the same kind, in any form")->required();
-    command.callback([arguments] {
+    auto command = commands.define("diff", "Tell field by field in what two documents differ",
+                                   [arguments](Session& session) { return diff(*arguments, session); });
+    command.add("A", arguments->first, "A document; - is standard input").required();
+    command.add("B", arguments->second, "A document of the same kind, in any form").required();
+    command.check([arguments] {
         if (arguments->first == StandardInput && arguments->second == StandardInput)
-            throw CLI::ValidationError("B", "Standard input can be read only once");
+            throw UsageError("B", "Standard input can be read only once");
     });
-    commands.setWork(command, [arguments](Session& session) { return diff(*arguments, session); });
 }

@@ -1,15 +1,48 @@
 #include "dispatcher.h"
 
-CLI::App& Dispatcher::define(const char* name, const char* description)
+#include <sstream>
+#include <utility>
+
+#include <CLI/CLI.hpp>
+
+Dispatcher::Dispatcher(const std::string& version)
+    : m_app(
+          std::make_unique<CLI::App>("Tells what the documents of backup jobs mean and when the jobs run", "zelmodel"))
 {
-    auto& command = *m_app.add_subcommand(name, description);
-    command.add_flag("--json", m_outputOptions.isJson, "Print JSON for programs");
-    command.add_flag("--no-color", m_outputOptions.isPlain, "No bold or coloured text; as the variable NO_COLOR");
-    command.add_flag("--reveal", m_outputOptions.showsSecrets, "Show secrets, which are hidden otherwise");
+    m_app->set_version_flag("--version", version);
+    m_app->require_subcommand(1);
+}
+
+Dispatcher::~Dispatcher() = default;
+
+CommandOptions Dispatcher::define(const char* name, const char* description, Work work)
+{
+    auto& app = *m_app->add_subcommand(name, description);
+    m_work[&app] = std::move(work);
+    CommandOptions command(app);
+    command.addFlag("--json", m_outputOptions.isJson, "Print JSON for programs");
+    command.addFlag("--no-color", m_outputOptions.isPlain, "No bold or coloured text; as the variable NO_COLOR");
+    command.addFlag("--reveal", m_outputOptions.showsSecrets, "Show secrets, which are hidden otherwise");
     return command;
+}
+
+void Dispatcher::parse(int argc, char** argv)
+try
+{
+    m_app->parse(argc, argv);
+}
+catch (const CLI::Success& answer)
+{
+    std::ostringstream text;
+    m_app->exit(answer, text, text);
+    throw EarlyAnswer(text.str());
+}
+catch (const CLI::ParseError& error)
+{
+    throw UsageError(error.what());
 }
 
 int Dispatcher::run(Session& session) const
 {
-    return m_work.at(m_app.get_subcommands().front())(session);
+    return m_work.at(m_app->get_subcommands().front())(session);
 }

@@ -2,9 +2,9 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
-#include <CLI/CLI.hpp>
-
+#include "command_options.h"
 #include "input.h"
 #include "output.h"
 
@@ -22,13 +22,18 @@ public:
     /// Does a command's work; gives the exit code.
     using Work = std::function<int(Session& session)>;
 
-    explicit Dispatcher(CLI::App& app) : m_app(app) {}
+    /// What `--version` answers.
+    explicit Dispatcher(const std::string& version);
+    ~Dispatcher();
+    Dispatcher(const Dispatcher&) = delete;
+    Dispatcher& operator=(const Dispatcher&) = delete;
 
     /// A new command with the options that all commands have.
-    CLI::App& define(const char* name, const char* description);
+    CommandOptions define(const char* name, const char* description, Work work);
 
-    /// Sets the work of a command.
-    void setWork(const CLI::App& command, Work work) { m_work[&command] = std::move(work); }
+    /// Takes the command and its options from the arguments of the call. Throws UsageError, and EarlyAnswer when only
+    /// that is asked for.
+    void parse(int argc, char** argv);
 
     /// Does the work of the command that was chosen.
     int run(Session& session) const;
@@ -37,7 +42,7 @@ public:
     const OutputOptions& outputOptions() const noexcept { return m_outputOptions; }
 
 private:
-    CLI::App& m_app;
+    std::unique_ptr<CLI::App> m_app;
     OutputOptions m_outputOptions;
     std::map<const CLI::App*, Work> m_work;
 };

@@ -35,10 +35,10 @@ std::string listForms()
 const dump::Form* formOf(const std::string& name)
 {
     if (name == KindHelp)
-        throw CLI::CallForVersion(listForms(), 0);
+        throw EarlyAnswer(listForms() + '\n');
     if (const auto* form = dump::findForm(name))
         return form;
-    throw CLI::ValidationError("--kind", '[' + name + "] is no kind; --kind help lists them");
+    throw UsageError("--kind", '[' + name + "] is no kind; --kind help lists them");
 }
 
 int tell(const Arguments& arguments, Session& session)
@@ -62,13 +62,13 @@ int tell(const Arguments& arguments, Session& session)
 
 void addDump(Dispatcher& commands)
 {
-    auto& command = commands.define("dump", "Tell a binary form byte by byte: keys, schedules, servers");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("FILE", arguments->file, "Binary or base64; - is standard input")->required();
+    auto command = commands.define("dump", "Tell a binary form byte by byte: keys, schedules, servers",
+                                   [arguments](Session& session) { return tell(*arguments, session); });
+    command.add("FILE", arguments->file, "Binary or base64; - is standard input").required();
     command
-        .add_option_function<std::string>(
+        .add(
             "--kind", [arguments](const std::string& name) { arguments->form = formOf(name); },
             "The form, in place of the one that fits; help lists them")
-        ->type_name("NAME");
-    commands.setWork(command, [arguments](Session& session) { return tell(*arguments, session); });
+        .typeName("NAME");
 }

@@ -20,8 +20,8 @@ void checkId(const std::string& id)
     for (const auto& rule : check::allRules())
         known.emplace_back(rule.id);
     const auto nearest = describe::nearestName(id, known);
-    throw CLI::ValidationError("ID", "[" + id + "] is no finding of check" +
-                                         (nearest.empty() ? "" : "; did you mean " + nearest + '?'));
+    throw UsageError("ID", "[" + id + "] is no finding of check" +
+                               (nearest.empty() ? "" : "; did you mean " + nearest + '?'));
 }
 
 int explain(const std::string& id, Session& session)
@@ -40,9 +40,9 @@ int explain(const std::string& id, Session& session)
 
 void addExplain(Dispatcher& commands)
 {
-    auto& command = commands.define("explain", "Tell cause and cure of a finding of check, or list all of them");
     const auto id = std::make_shared<std::string>();
-    command.add_option("ID", *id, "The identifier in square brackets at the end of a finding");
-    command.callback([id] { checkId(*id); });
-    commands.setWork(command, [id](Session& session) { return explain(*id, session); });
+    auto command = commands.define("explain", "Tell cause and cure of a finding of check, or list all of them",
+                                   [id](Session& session) { return explain(*id, session); });
+    command.add("ID", *id, "The identifier in square brackets at the end of a finding");
+    command.check([id] { checkId(*id); });
 }

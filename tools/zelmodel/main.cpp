@@ -4,8 +4,6 @@
 #include <memory>
 #include <string_view>
 
-#include <CLI/CLI.hpp>
-
 #include <zelplatform/exc/exc.h>
 
 #include "commands.h"
@@ -41,10 +39,8 @@ bool asksForJson(int argc, char** argv)
     return std::any_of(argv + 1, argv + argc, [](std::string_view argument) { return argument == "--json"; });
 }
 
-int tellUsage(const CLI::App& app, const CLI::ParseError& error, bool isJson)
+int tellUsage(const UsageError& error, bool isJson)
 {
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
-        return app.exit(error);
     OutputOptions options;
     options.isJson = isJson;
     Output(options).printUsageError(describe::shortened(error.what(), LongestUsageError));
@@ -85,18 +81,20 @@ catch (const std::exception& error)
 
 int run(int argc, char** argv)
 {
-    CLI::App app("Tells what the documents of backup jobs mean and when the jobs run", "zelmodel");
-    app.set_version_flag("--version", Version);
-    app.require_subcommand(1);
-    Dispatcher commands(app);
+    Dispatcher commands(Version);
     addCommands(commands);
     try
     {
-        app.parse(argc, argv);
+        commands.parse(argc, argv);
     }
-    catch (const CLI::ParseError& error)
+    catch (const EarlyAnswer& answer)
     {
-        return tellUsage(app, error, asksForJson(argc, argv));
+        std::cout << answer.what();
+        return exit_code::Fine;
+    }
+    catch (const UsageError& error)
+    {
+        return tellUsage(error, asksForJson(argc, argv));
     }
     Session session{Output(commands.outputOptions()), Reading()};
     return runCommand(commands, session);

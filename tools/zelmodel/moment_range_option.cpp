@@ -34,18 +34,18 @@ try
 }
 catch (const std::exception&)
 {
-    throw CLI::ValidationError(option, "[" + text +
-                                           "] is no moment from 1400 to 9999 written as YYYY-MM-DD, "
-                                           "YYYY-MM-DD HH:MM or YYYY-MM-DD HH:MM:SS");
+    throw UsageError(option, "[" + text +
+                                 "] is no moment from 1400 to 9999 written as YYYY-MM-DD, "
+                                 "YYYY-MM-DD HH:MM or YYYY-MM-DD HH:MM:SS");
 }
 
 } // namespace
 
-void addMomentRangeOption(CLI::App& command, const char* name, std::optional<MomentRange>& target,
+void addMomentRangeOption(CommandOptions& command, const char* name, std::optional<MomentRange>& target,
                           const char* description)
 {
     command
-        .add_option_function<std::string>(
+        .add(
             name, [name, &target](const std::string& text) { target = parseMoment(name, text); }, description)
-        ->type_name("\"YYYY-MM-DD[ HH:MM[:SS]]\"");
+        .typeName("\"YYYY-MM-DD[ HH:MM[:SS]]\"");
 }

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include <CLI/CLI.hpp>
+#include "command_options.h"
 
 /// A moment as precise as it was written: a day, a minute or a second, in seconds since 1970-01-01 00:00:00 UTC.
 struct MomentRange
@@ -13,5 +13,5 @@ struct MomentRange
 
 /// Adds an option that takes "YYYY-MM-DD[ HH:MM[:SS]]", in UTC and to the letter, and sets the target, which must
 /// outlive the parsing.
-void addMomentRangeOption(CLI::App& command, const char* name, std::optional<MomentRange>& target,
+void addMomentRangeOption(CommandOptions& command, const char* name, std::optional<MomentRange>& target,
                           const char* description);

@@ -48,29 +48,26 @@ void checkNeeds(const NewRequest& request)
         std::string list;
         for (const auto& name : given.option->needs)
             list += (list.empty() ? "" : " or ") + name;
-        throw CLI::ValidationError(given.option->name, "has a meaning with " + list + " only");
+        throw UsageError(given.option->name, "has a meaning with " + list + " only");
     }
 }
 
-void addOption(CLI::App& command, const NewOption& row, const std::shared_ptr<NewRequest>& request)
+void addOption(CommandOptions& command, const NewOption& row, const std::shared_ptr<NewRequest>& request)
 {
-    CLI::Option* option = nullptr;
-    if (row.typeName.empty())
-        option = command.add_flag_callback(
-            row.name,
-            [request, &row] {
-                request->given.push_back({&row, ""});
-            },
-            row.help);
-    else
-        option = command.add_option_function<std::string>(
-            row.name,
-            [request, &row](const std::string& text) {
-                request->given.push_back({&row, text});
-            },
-            row.help);
+    auto option = row.typeName.empty() ? command.addFlag(
+                                             row.name,
+                                             [request, &row] {
+                                                 request->given.push_back({&row, ""});
+                                             },
+                                             row.help)
+                                       : command.add(
+                                             row.name,
+                                             [request, &row](const std::string& text) {
+                                                 request->given.push_back({&row, text});
+                                             },
+                                             row.help);
     if (!row.typeName.empty())
-        option->type_name(row.typeName);
+        option.typeName(row.typeName);
     if (row.choice.empty())
         return;
     for (const auto& other : edit::newOptions(request->kind))
@@ -78,33 +75,31 @@ void addOption(CLI::App& command, const NewOption& row, const std::shared_ptr<Ne
         if (&other == &row)
             return;
         if (other.choice == row.choice)
-            option->excludes(command.get_option(other.name));
+            option.excludes(other.name);
     }
 }
 
-void addWindow(CLI::App& command, const std::shared_ptr<NewRequest>& request)
+void addWindow(CommandOptions& command, const std::shared_ptr<NewRequest>& request)
 {
-    auto* window = command.add_option("--window", request->window,
-                                      "A backup window, which is a document of its own: " + windowOption().help);
-    window->type_name(windowOption().typeName);
+    command.add("--window", request->window, "A backup window, which is a document of its own: " + windowOption().help)
+        .typeName(windowOption().typeName);
     command
-        .add_option("--window-output", request->windowOutput,
-                    "The file of the window; beside the output unless given: job.window.xml for job.xml")
-        ->type_name("FILE")
-        ->needs(window);
+        .add("--window-output", request->windowOutput,
+             "The file of the window; beside the output unless given: job.window.xml for job.xml")
+        .typeName("FILE")
+        .needs("--window");
 }
 
 } // namespace
 
 void addNew(Dispatcher& commands)
 {
-    auto& command = commands.define("new", "Write a document without knowing its XML");
-    command.require_subcommand(1);
     const auto chosen = std::make_shared<std::shared_ptr<const NewRequest>>();
+    auto command = commands.define("new", "Write a document without knowing its XML",
+                                   [chosen](Session& session) { return writeNew(**chosen, session); });
     for (const auto& kind : Kinds)
     {
-        auto& sub = *command.add_subcommand(kind.name, kind.description);
-        sub.fallthrough();
+        auto sub = command.addCommand(kind.name, kind.description);
         const auto request = std::make_shared<NewRequest>();
         request->kind = kind.kind;
         request->name = std::string("new ") + kind.name;
@@ -112,12 +107,11 @@ void addNew(Dispatcher& commands)
             addOption(sub, row, request);
         if (kind.hasWindow)
             addWindow(sub, request);
-        sub.add_option("-o,--output", request->output, "A new file for the document; standard output unless given")
-            ->type_name("FILE");
-        sub.callback([request, chosen] {
+        sub.add("-o,--output", request->output, "A new file for the document; standard output unless given")
+            .typeName("FILE");
+        sub.check([request, chosen] {
             checkNeeds(*request);
             *chosen = request;
         });
     }
-    commands.setWork(command, [chosen](Session& session) { return writeNew(**chosen, session); });
 }

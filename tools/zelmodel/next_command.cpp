@@ -45,10 +45,10 @@ void check(const Arguments& arguments)
         return;
     const auto days = daysTo(arguments.from.value_or(today()), *arguments.until);
     if (days < 0)
-        throw CLI::ValidationError("--until", "The last day lies before the first");
+        throw UsageError("--until", "The last day lies before the first");
     if (days > MostDaysToUntil)
-        throw CLI::ValidationError("--until", "The last day lies more than " + std::to_string(MostDaysToUntil) +
-                                                  " days after the first");
+        throw UsageError("--until",
+                         "The last day lies more than " + std::to_string(MostDaysToUntil) + " days after the first");
 }
 
 std::vector<when::StartDay> findDays(const when::Evaluation& evaluation, const Arguments& arguments, const CDate& from)
@@ -96,17 +96,16 @@ int next(const Arguments& arguments, Session& session)
 
 void addNext(Dispatcher& commands)
 {
-    auto& command = commands.define("next", "Tell on which days a job starts next");
     const auto arguments = std::make_shared<Arguments>();
+    auto command = commands.define("next", "Tell on which days a job starts next",
+                                   [arguments](Session& session) { return next(*arguments, session); });
     addScheduleArguments(command, arguments->documents);
     addDateOption(command, "--from", arguments->from, "The first day that counts; today unless given");
-    auto* until = addDateOption(command, "--until", arguments->until, "The last day that counts");
-    command.add_option("-n,--count", arguments->count, "How many days; 10, or all with --until, unless given")
-        ->check(CLI::Range(1U, MostDays));
-    command.add_flag("--previous", arguments->isPrevious, "The last days before --from, the latest first")
-        ->excludes(until);
-    command.add_flag("--ical", arguments->isIcal, "Print a calendar for other programs (RFC 5545)")
-        ->excludes(command.get_option("--json"));
-    command.callback([arguments] { check(*arguments); });
-    commands.setWork(command, [arguments](Session& session) { return next(*arguments, session); });
+    addDateOption(command, "--until", arguments->until, "The last day that counts");
+    command.add("-n,--count", arguments->count, "How many days; 10, or all with --until, unless given")
+        .between(1, MostDays);
+    command.addFlag("--previous", arguments->isPrevious, "The last days before --from, the latest first")
+        .excludes("--until");
+    command.addFlag("--ical", arguments->isIcal, "Print a calendar for other programs (RFC 5545)").excludes("--json");
+    command.check([arguments] { check(*arguments); });
 }

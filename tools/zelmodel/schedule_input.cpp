@@ -7,17 +7,16 @@
 #include "describe/terminal_text.h"
 #include "exit_code.h"
 
-void addScheduleArguments(CLI::App& command, ScheduleArguments& arguments)
+void addScheduleArguments(CommandOptions& command, ScheduleArguments& arguments)
 {
-    command.add_option("FILE", arguments.file, "Job options or schedule options; - is standard input")->required();
-    command.add_option("--window", arguments.window, "A backup window: tell whether it is open at the start")
-        ->type_name("FILE");
+    command.add("FILE", arguments.file, "Job options or schedule options; - is standard input").required();
+    command.add("--window", arguments.window, "A backup window: tell whether it is open at the start").typeName("FILE");
 }
 
 void checkScheduleArguments(const ScheduleArguments& arguments)
 {
     if (arguments.file == StandardInput && arguments.window == StandardInput)
-        throw CLI::ValidationError("--window", "Standard input can be read only once");
+        throw UsageError("--window", "Standard input can be read only once");
 }
 
 ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading)

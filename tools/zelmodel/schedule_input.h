@@ -4,8 +4,6 @@
 #include <optional>
 #include <string>
 
-#include <CLI/CLI.hpp>
-
 #include <zelmodel/datetime/date.h>
 #include <zelmodel/structs/schedule/backup_window.h>
 #include <zelmodel/structs/schedule/schedule_options.h>
@@ -34,7 +32,7 @@ struct ScheduleInput
 };
 
 /// Adds FILE and --window; the arguments must outlive the parsing.
-void addScheduleArguments(CLI::App& command, ScheduleArguments& arguments);
+void addScheduleArguments(CommandOptions& command, ScheduleArguments& arguments);
 
 /// Refuses two documents from one standard input; for the command's callback.
 void checkScheduleArguments(const ScheduleArguments& arguments);

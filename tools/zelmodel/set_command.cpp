@@ -46,16 +46,16 @@ edit::Assignment assignmentOf(const std::string& value)
 {
     const auto equals = value.find('=');
     if (equals == std::string::npos || equals == 0)
-        throw CLI::ValidationError("FIELD=VALUE", "[" + value + "] is not of this form");
+        throw UsageError("FIELD=VALUE", "[" + value + "] is not of this form");
     return {value.substr(0, equals), value.substr(equals + 1)};
 }
 
 void checkArguments(const Arguments& arguments)
 {
     if (arguments.listsFields != arguments.values.empty())
-        throw CLI::ValidationError("set", "Give either FIELD=VALUE or --fields");
+        throw UsageError("set", "Give either FIELD=VALUE or --fields");
     if (arguments.file == StandardInput && arguments.isInPlace)
-        throw CLI::ValidationError("--in-place", "Standard input is no file");
+        throw UsageError("--in-place", "Standard input is no file");
     for (const auto& value : arguments.values)
         assignmentOf(value);
 }
@@ -162,19 +162,16 @@ catch (const edit::UnknownField& error)
 
 void addSet(Dispatcher& commands)
 {
-    auto& command = commands.define("set", "Change fields of a document; the changed document is printed");
     const auto arguments = std::make_shared<Arguments>();
-    command
-        .add_option("FILE", arguments->file, "Job options, a schedule, a window or a GFS policy; - is standard input")
-        ->required();
-    command.add_option("FIELD=VALUE", arguments->values, "What to set: maxDays=14, schedule.jobStart.time=22:30");
-    command.add_flag("--fields", arguments->listsFields, "List the fields that can be set, and their present values");
-    auto* const output =
-        command
-            .add_option("-o,--output", arguments->output, "A new file for the document; standard output unless given")
-            ->type_name("FILE");
-    command.add_flag("--in-place", arguments->isInPlace, "Replace the file, and keep the old one as FILE.orig")
-        ->excludes(output);
-    command.callback([arguments] { checkArguments(*arguments); });
-    commands.setWork(command, [arguments](Session& session) { return run(*arguments, session); });
+    auto command = commands.define("set", "Change fields of a document; the changed document is printed",
+                                   [arguments](Session& session) { return run(*arguments, session); });
+    command.add("FILE", arguments->file, "Job options, a schedule, a window or a GFS policy; - is standard input")
+        .required();
+    command.add("FIELD=VALUE", arguments->values, "What to set: maxDays=14, schedule.jobStart.time=22:30");
+    command.addFlag("--fields", arguments->listsFields, "List the fields that can be set, and their present values");
+    command.add("-o,--output", arguments->output, "A new file for the document; standard output unless given")
+        .typeName("FILE");
+    command.addFlag("--in-place", arguments->isInPlace, "Replace the file, and keep the old one as FILE.orig")
+        .excludes("--output");
+    command.check([arguments] { checkArguments(*arguments); });
 }

@@ -23,8 +23,8 @@ int show(const std::string& file, Session& session)
 
 void addShow(Dispatcher& commands)
 {
-    auto& command = commands.define("show", "Tell in words what a document holds");
     const auto file = std::make_shared<std::string>();
-    command.add_option("FILE", *file, "A document of any kind; - is standard input")->required();
-    commands.setWork(command, [file](Session& session) { return show(*file, session); });
+    auto command = commands.define("show", "Tell in words what a document holds",
+                                   [file](Session& session) { return show(*file, session); });
+    command.add("FILE", *file, "A document of any kind; - is standard input").required();
 }

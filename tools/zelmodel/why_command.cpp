@@ -52,12 +52,12 @@ int why(const Arguments& arguments, Session& session)
 
 void addWhy(Dispatcher& commands)
 {
-    auto& command = commands.define("why", "Tell why a job starts at a time, or why not");
     const auto arguments = std::make_shared<Arguments>();
+    auto command = commands.define("why", "Tell why a job starts at a time, or why not",
+                                   [arguments](Session& session) { return why(*arguments, session); });
     addScheduleArguments(command, arguments->documents);
-    addMomentOption(command, "--at", arguments->at, "The local time that is asked about")->required();
+    addMomentOption(command, "--at", arguments->at, "The local time that is asked about").required();
     addDateOption(command, "--from", arguments->from,
                   "The day from whose 00:00 the starts of a periodical job are counted; the day of --at unless given");
-    command.callback([arguments] { checkScheduleArguments(arguments->documents); });
-    commands.setWork(command, [arguments](Session& session) { return why(*arguments, session); });
+    command.check([arguments] { checkScheduleArguments(arguments->documents); });
 }
