@@ -26,13 +26,11 @@ datetime::CDateTime advanceMonths(const datetime::CDateTime& date, long months)
     int day = 0;
     date.getDate(year, month, day);
 
-    const long target = year * MonthsOfYear + (month - 1) + months;
     // Whatever lies before year 0 or after year 10000 is refused by the calendar as these years are.
-    const long targetYear = target < 0 ? 0 : std::min(target / MonthsOfYear, 10000L);
-    const int targetMonth = target < 0 ? 1 : static_cast<int>(target % MonthsOfYear) + 1;
+    const long target = std::clamp(year * MonthsOfYear + (month - 1) + months, 0L, 10000 * MonthsOfYear);
 
     auto result = date;
-    result.setDate(static_cast<int>(targetYear), targetMonth, 1);
+    result.setDate(static_cast<int>(target / MonthsOfYear), static_cast<int>(target % MonthsOfYear) + 1, 1);
     result.setDay(std::min(day, static_cast<int>(result.getMonthLastDay())));
     return result;
 }
