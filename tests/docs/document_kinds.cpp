@@ -9,6 +9,7 @@
 #include <zelplatform/exc/exc.h>
 #include <zelplatform/xmlpp/xmlpp.h>
 
+#include "readers/reader.h"
 #include "record_kinds.h"
 
 namespace zelmodel_test
@@ -19,31 +20,6 @@ namespace
 using xmlpp::CXmlDocument;
 using namespace zelplatform::model;
 using namespace zelplatform::model::structs;
-
-std::string rewriteJob(const std::string& text)
-{
-    return SBackupJobOptions::fromXml(CXmlDocument::Unserialize(text).ToNode()).toString();
-}
-
-std::string rewriteSchedule(const std::string& text)
-{
-    return CScheduleOptions::FromXml(CXmlDocument::Unserialize(text).GetRootNode("ScheduleOptions")).ToXmlString();
-}
-
-std::string rewriteWindow(const std::string& text)
-{
-    const auto window = BackupWindow::fromXml(CXmlDocument::Unserialize(text).ToNode());
-    const CXmlDocument written;
-    auto top = written.ToNode();
-    window->toXml(top);
-    return written.Serialize();
-}
-
-template <bool IsShort>
-std::string rewritePolicy(const std::string& text)
-{
-    return gfs::SGfsPolicyInfo::fromXml(CXmlDocument::Unserialize(text).ToNode(), IsShort).toXmlString(IsShort);
-}
 
 std::string rewriteIndexing(const std::string& text)
 {
@@ -63,14 +39,15 @@ std::string tellOldSchedule(const std::string& text)
 
 std::vector<DocumentKind> jobKinds()
 {
+    const auto& job = readers::find("SBackupJobOptions.fromXml").rewrite;
     return {
-        {"xml JobOptions", true, rewriteJob},
-        {"xml JobOptionsRoot", false, rewriteJob},
-        {"xml ScheduleOptions", true, rewriteSchedule},
+        {"xml JobOptions", true, job},
+        {"xml JobOptionsRoot", false, job},
+        {"xml ScheduleOptions", true, readers::find("CScheduleOptions.FromXml").rewrite},
         {"xml Schedule", false, tellOldSchedule},
-        {"xml ScheduleWindow", true, rewriteWindow},
-        {"xml GfsPolicy short", true, rewritePolicy<true>},
-        {"xml GfsPolicy long", true, rewritePolicy<false>},
+        {"xml ScheduleWindow", true, readers::find("BackupWindow.fromXml").rewrite},
+        {"xml GfsPolicy short", true, readers::find("SGfsPolicyInfo.fromXml.short").rewrite},
+        {"xml GfsPolicy long", true, readers::find("SGfsPolicyInfo.fromXml.long").rewrite},
         {"xml Indexing", true, rewriteIndexing},
     };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,7 @@ struct DocumentKind
     bool isWrittenBack;
 
     /// Reads the text with the reader of the kind and writes what was read; the older schedules as words.
-    std::string (*rewrite)(const std::string& text);
+    std::function<std::string(const std::string& text)> rewrite;
 };
 
 /// The kind of a block; nullptr when the block is no example.

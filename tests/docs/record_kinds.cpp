@@ -4,6 +4,8 @@
 #include <zelplatform/util/util.h>
 #include <zelplatform/xmlpp/xmlpp.h>
 
+#include "readers/reader.h"
+
 namespace zelmodel_test
 {
 namespace
@@ -12,25 +14,6 @@ namespace
 using xmlpp::CXmlDocument;
 using namespace zelplatform::model;
 using namespace zelplatform::model::structs;
-using namespace zelplatform::model::transform;
-
-template <class TConfig>
-std::string rewriteConfig(const std::string& text)
-{
-    return TConfig::FromXmlString(text).ToXmlString();
-}
-
-template <class TSpec>
-std::string rewriteSpec(const std::string& text)
-{
-    return TSpec::FromString(text)->ToString();
-}
-
-// The reader wants the element below another one, the writer puts it at the top.
-std::string rewriteLimitations(const std::string& text)
-{
-    return "<Answer>" + CRepositoryLimitationsSpec::FromString(text).ToString() + "</Answer>";
-}
 
 std::string rewriteImmutability(const std::string& text)
 {
@@ -51,16 +34,6 @@ std::string tellDirectImmutability(const std::string& text)
            " days; immutable extent: " + util::toStr(direct.hasImmutableCapacityOrArchiveTierExtent) + '\n';
 }
 
-std::string rewriteStorage(const std::string& text)
-{
-    return SAmazonS3SpecificParams::FromXmlStr(text).ToXmlStr();
-}
-
-std::string rewriteContainer(const std::string& text)
-{
-    return SExternalRepoCloudContainer::Unserialize(text).Serialize();
-}
-
 std::string writeVariant(const std::string& text)
 {
     const auto root = CXmlDocument::Unserialize(text).GetRootNode();
@@ -75,26 +48,6 @@ std::string writeOptionKey(const std::string& text)
     auto option = written.AddRootNode("Option");
     SEntityOptionKey{std::string(root.GetAttribute("Key"))}.ToXmlNode(option);
     return written.Serialize();
-}
-
-std::string rewriteDetails(const std::string& text)
-{
-    return JobSessionDetails::fromXmlStr(text).toXmlStr();
-}
-
-std::string rewriteProgress(const std::string& text)
-{
-    return SJobSessionProgressDetails::FromXml(text).ToXml();
-}
-
-std::string rewriteMount(const std::string& text)
-{
-    return SMountSessionDetails::FromXmlStr(CUtf8String(text)).ToXmlStr();
-}
-
-std::string rewriteState(const std::string& text)
-{
-    return SBackupJobState::FromXmlStr(text).ToXmlString();
 }
 
 std::string tellArguments(const std::string& text)
@@ -124,26 +77,28 @@ std::string tellArguments(const std::string& text)
 
 std::vector<DocumentKind> recordKinds()
 {
+    const auto& state = readers::find("SBackupJobState.FromXmlStr").rewrite;
+    const auto& full = readers::find("CCreateSyntheticFullSpec.FromString").rewrite;
     return {
-        {"xml OracleConfig", true, rewriteConfig<SApplicationProcessingOracleConfig>},
-        {"xml PostgresConfig", true, rewriteConfig<SApplicationProcessingPostgresConfig>},
-        {"xml JobSettings", true, rewriteLimitations},
+        {"xml OracleConfig", true, readers::find("SApplicationProcessingOracleConfig.FromXmlString").rewrite},
+        {"xml PostgresConfig", true, readers::find("SApplicationProcessingPostgresConfig.FromXmlString").rewrite},
+        {"xml JobSettings", true, readers::find("CRepositoryLimitationsSpec.FromString").rewrite},
         {"xml ImmutabilitySettings", true, rewriteImmutability},
         {"xml DirectBackupImmutabilitySettings", false, tellDirectImmutability},
-        {"xml AmazonS3SpecificParams", true, rewriteStorage},
-        {"xml root", false, rewriteContainer},
+        {"xml AmazonS3SpecificParams", true, readers::find("SAmazonS3SpecificParams.FromXmlStr").rewrite},
+        {"xml root", false, readers::find("SExternalRepoCloudContainer.Unserialize").rewrite},
         {"xml SqlVariant", true, writeVariant},
         {"xml Option", true, writeOptionKey},
-        {"xml Details", true, rewriteDetails},
-        {"xml ProgressDetails", true, rewriteProgress},
+        {"xml Details", true, readers::find("JobSessionDetails.fromXmlStr").rewrite},
+        {"xml ProgressDetails", true, readers::find("SJobSessionProgressDetails.FromXml").rewrite},
         {"xml Record", false, tellArguments},
-        {"xml MountSessionDetails", true, rewriteMount},
-        {"xml BackupJobState", true, rewriteState},
-        {"xml BackupJobState 1", false, rewriteState},
-        {"xml DeletePointTransformSpec", true, rewriteSpec<CTransformSpec>},
-        {"xml FullTransformSpec", true, rewriteSpec<CCreateSyntheticFullSpec>},
-        {"xml FullTransformSpec single", false, rewriteSpec<CCreateSyntheticFullSpec>},
-        {"xml GfsFullTransformSpec", true, rewriteSpec<CCreateGfsSyntheticFullSpec>},
+        {"xml MountSessionDetails", true, readers::find("SMountSessionDetails.FromXmlStr").rewrite},
+        {"xml BackupJobState", true, state},
+        {"xml BackupJobState 1", false, state},
+        {"xml DeletePointTransformSpec", true, readers::find("CTransformSpec.FromString").rewrite},
+        {"xml FullTransformSpec", true, full},
+        {"xml FullTransformSpec single", false, full},
+        {"xml GfsFullTransformSpec", true, readers::find("CCreateGfsSyntheticFullSpec.FromString").rewrite},
     };
 }
 
