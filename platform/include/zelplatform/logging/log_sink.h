@@ -23,7 +23,8 @@ struct Entry
     std::string text;
 };
 
-/// Where entries go. Sections of several threads may write at once; an implementation guards itself and does not throw.
+/// Where entries go. Sections of several threads may write at once; an implementation guards itself. What it throws,
+/// such as std::bad_alloc, passes on to the operation that logs.
 struct ZELPLATFORM_API ILogSink
 {
     virtual ~ILogSink();
