@@ -13,14 +13,21 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "slowness.h"
+
 namespace zelmodel_test
 {
 namespace
 {
 
-constexpr auto Patience = std::chrono::seconds(30);
 constexpr auto Pause = std::chrono::milliseconds(2);
 constexpr int OnSignal = 128;
+
+std::chrono::steady_clock::time_point deadlineFromNow()
+{
+    const std::chrono::duration<double> patience(30 * slowness());
+    return std::chrono::steady_clock::now() + std::chrono::duration_cast<std::chrono::steady_clock::duration>(patience);
+}
 
 std::string contentOf(const std::string& path)
 {
@@ -30,7 +37,7 @@ std::string contentOf(const std::string& path)
 
 std::string contentWith(const std::string& path, const std::string& text)
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience;
+    const auto deadline = deadlineFromNow();
     for (;;)
     {
         auto content = contentOf(path);
@@ -90,7 +97,7 @@ void RunningCommand::signal(int number) const
 
 CommandResult RunningCommand::end()
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience;
+    const auto deadline = deadlineFromNow();
     int status = 0;
     struct rusage usage = {};
     while (::wait4(m_child, &status, WNOHANG, &usage) == 0)

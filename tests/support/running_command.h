@@ -11,7 +11,8 @@
 namespace zelmodel_test
 {
 
-/// The program `zelmodel` while it runs beside the test, without input. Nothing waits longer than half a minute.
+/// The program `zelmodel` while it runs beside the test, without input. Nothing waits longer than half a minute
+/// times slowness().
 class RunningCommand
 {
 public:
