@@ -1,4 +1,5 @@
 include(GoogleTest)
+include(emulation)
 
 # Everything the test binaries share: the helpers of tests/support, the folders with documents, the precompiled header.
 function(zel_add_test_support)
@@ -7,6 +8,8 @@ function(zel_add_test_support)
         file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/support.cpp CONTENT "#include <gtest/gtest.h>\n")
         set(sources ${CMAKE_CURRENT_BINARY_DIR}/support.cpp)
     endif()
+    zel_program_path(command zelmodel)
+    zel_add_emulation(zelmodel)
     add_library(test_support STATIC ${sources})
     target_include_directories(test_support PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/model)
     target_compile_definitions(test_support PUBLIC
@@ -14,7 +17,7 @@ function(zel_add_test_support)
         ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
         ZELMODEL_FAULTS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/faults"
         ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
-        ZELMODEL_COMMAND="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zelmodel")
+        ZELMODEL_COMMAND="${command}")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)
     # Neither are they instrumented: it is the library and the tools that are watched, and what they do to the heap.
@@ -58,7 +61,11 @@ function(zel_add_test_folder folder)
         endif()
     endforeach()
     zel_enable_warnings(${name})
-    if(ZELMODEL_SANITIZE OR ZELMODEL_COVERAGE)
+    if(CMAKE_CROSSCOMPILING_EMULATOR)
+        zel_add_emulation(${name})
+        zel_program_path(program ${name})
+        add_test(NAME ${name} COMMAND ${program} --gtest_brief=1)
+    elseif(ZELMODEL_SANITIZE OR ZELMODEL_COVERAGE)
         add_test(NAME ${name} COMMAND ${name})
     else()
         gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX ${name}.)
