@@ -54,6 +54,17 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+// A sanitizer's forms for arrays would pass by those of single objects.
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return ::operator new(size, std::nothrow);
+}
+
+void* operator new[](std::size_t size)
+{
+    return ::operator new(size);
+}
+
 void operator delete(void* block) noexcept
 {
     giveBack(block);
@@ -65,6 +76,21 @@ void operator delete(void* block, std::size_t) noexcept
 }
 
 void operator delete(void* block, const std::nothrow_t&) noexcept
+{
+    giveBack(block);
+}
+
+void operator delete[](void* block) noexcept
+{
+    giveBack(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
+{
+    giveBack(block);
+}
+
+void operator delete[](void* block, const std::nothrow_t&) noexcept
 {
     giveBack(block);
 }

@@ -1,4 +1,3 @@
-#include <chrono>
 #include <map>
 #include <string>
 #include <vector>
@@ -7,6 +6,7 @@
 
 #include <platform/memory_device.h>
 #include <support/expect_failure.h>
+#include <support/processor_time.h>
 #include <support/slowness.h>
 #include <zelmodel/keys.h>
 
@@ -58,12 +58,12 @@ Refusal refusal(const std::string& bytes, bool isSizeKnown)
     io::binary_stream_tt stream(device);
 
     Refusal result;
-    const auto begin = std::chrono::steady_clock::now();
+    const zelmodel_test::ProcessorTime time;
     zelmodel_test::watchAllocations();
     result.message = failureText([&] { keys.Unserialize(stream); });
     result.largest = zelmodel_test::largestAllocation();
     result.inAll = zelmodel_test::allocatedInAll();
-    result.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    result.seconds = time.seconds();
 
     EXPECT_EQ(guid::guid_t::FromAStr(otherId), keys.id);
     EXPECT_EQ(1U, keys.keySets.size());

@@ -1,8 +1,7 @@
-#include <chrono>
-
 #include <gtest/gtest.h>
 
 #include <support/expect_failure.h>
+#include <support/processor_time.h>
 #include <support/slowness.h>
 #include <zelmodel/transforms.h>
 
@@ -25,11 +24,7 @@ constexpr unsigned count = 100000;
 class ManyPoints : public ::testing::Test
 {
 protected:
-    void TearDown() override
-    {
-        EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count(),
-                  20.0 * zelmodel_test::slowness());
-    }
+    void TearDown() override { EXPECT_LT(m_time.seconds(), 20.0 * zelmodel_test::slowness()); }
 
     static std::string guids()
     {
@@ -40,7 +35,7 @@ protected:
     }
 
 private:
-    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+    zelmodel_test::ProcessorTime m_time;
 };
 
 TEST_F(ManyPoints, DeletePoints)
