@@ -66,6 +66,21 @@ TEST_F(SessionLogTime, TextsThatAreTimes)
     EXPECT_TRUE(entries().empty());
 }
 
+TEST_F(SessionLogTime, OfSeveralWrongNumbersTheFirstIsTold)
+{
+    const std::string right[] = {"2024", "03", "07", "13", "05", "09"};
+    for (std::size_t first = 0; first < std::size(right); ++first)
+    {
+        std::string numbers[std::size(right)];
+        for (std::size_t i = 0; i < std::size(right); ++i)
+            numbers[i] = i < first ? right[i] : "x" + std::to_string(i);
+        const auto text =
+            numbers[0] + '-' + numbers[1] + '-' + numbers[2] + ' ' + numbers[3] + ':' + numbers[4] + ':' + numbers[5];
+        const auto failure = failureText([&] { read(text); });
+        EXPECT_NE(failure.find("string [x" + std::to_string(first) + "] to"), std::string::npos) << failure;
+    }
+}
+
 TEST_F(SessionLogTime, InstantIsUtcWithTheOffsetInForce)
 {
     const auto time = read("2024-03-07 23:05:09");
