@@ -1,4 +1,7 @@
 find_package(Boost 1.81 REQUIRED CONFIG)
+if(ZELMODEL_PLATFORM)
+    find_package(${ZELMODEL_PLATFORM} REQUIRED CONFIG)
+endif()
 find_package(OpenSSL REQUIRED COMPONENTS Crypto)
 if(NOT ZELMODEL_TINYXML2_SOURCE)
     find_package(tinyxml2 REQUIRED CONFIG)
