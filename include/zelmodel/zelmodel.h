@@ -13,3 +13,4 @@
 #include <zelmodel/schedules.h>
 #include <zelmodel/sessions.h>
 #include <zelmodel/transforms.h>
+#include <zelmodel/version.h>
