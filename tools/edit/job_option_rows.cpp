@@ -64,10 +64,14 @@ std::vector<NewOption> jobOptionRows()
 {
     auto rows = retentionRows();
     const std::vector<NewOption> others{
-        rowOf("--compression", "NAME", "NoCompression, Rle, Lz4, Zstd3, Zstd9, or a level 0 to 4", "compression"),
-        rowOf("--block-size", "KB", "256, 512, 1024, 2048, 4096 or 8192", "blockSize"),
+        withWords(
+            rowOf("--compression", "NAME", "NoCompression, Rle, Lz4, Zstd3, Zstd9, or a level 0 to 4", "compression"),
+            {"NoCompression", "Rle", "Lz4", "Zstd3", "Zstd9"}),
+        withWords(rowOf("--block-size", "KB", "256, 512, 1024, 2048, 4096 or 8192", "blockSize"),
+                  {"256", "512", "1024", "2048", "4096", "8192"}),
         flagOf("--no-dedup", "No deduplication", {{"dedupEnabled", "false"}}),
-        rowOf("--snapshot", "MODE", "SnapshotRequired, NoSnapshot or Hybrid", "snapshotMode"),
+        withWords(rowOf("--snapshot", "MODE", "SnapshotRequired, NoSnapshot or Hybrid", "snapshotMode"),
+                  {"SnapshotRequired", "NoSnapshot", "Hybrid"}),
         rowOf("--pre-freeze", "COMMAND", "Script before freezing", "preFreezeCommand"),
         rowOf("--post-thaw", "COMMAND", "Script after thawing", "postThawCommand"),
         flagOf("--ignore-script-failures", "Failures of freezing and thawing are ignored",
@@ -77,7 +81,7 @@ std::vector<NewOption> jobOptionRows()
         rowOf("--post-job", "COMMAND", "Script after the job", "postJobCommand"),
         rowOf("--retries", "N", "How often a failed run is tried again", "retryCount"),
         {"--retry-wait", "TIME", "How long to wait between: 10m, 1h30m", retryWaitOf},
-        {"--index", "WHAT", "all, none, only:FOLDERS or except:FOLDERS", indexingOf},
+        withWords({"--index", "WHAT", "all, none, only:FOLDERS or except:FOLDERS", indexingOf}, {"all", "none"}),
         rowOf("--product-specific", "TEXT", "Product-specific text", "productSpecific")};
     rows.insert(rows.end(), others.begin(), others.end());
     return rows;

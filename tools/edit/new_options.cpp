@@ -40,6 +40,12 @@ NewOption flagOf(std::string name, std::string help, std::vector<Assignment> fix
     return {std::move(name), "", std::move(help), [fixed = std::move(fixed)](const std::string&) { return fixed; }};
 }
 
+NewOption withWords(NewOption option, std::vector<std::string> words)
+{
+    option.words = std::move(words);
+    return option;
+}
+
 std::vector<NewOption> inPart(const std::string& part, std::vector<NewOption> options)
 {
     for (auto& option : options)

@@ -25,6 +25,9 @@ struct NewOption
 
     /// One of these must be given too.
     std::vector<std::string> needs = {};
+
+    /// Words that it takes, as far as they are known.
+    std::vector<std::string> words = {};
 };
 
 /// The options for a new document of the kind; none for a kind that is not written.

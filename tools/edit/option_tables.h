@@ -21,6 +21,9 @@ NewOption rowOf(std::string name, std::string typeName, std::string help, std::s
 /// A flag that sets fields to fixed values.
 NewOption flagOf(std::string name, std::string help, std::vector<Assignment> fixed);
 
+/// The option with words that it takes.
+NewOption withWords(NewOption option, std::vector<std::string> words);
+
 /// The options with their fields in a part of the document.
 std::vector<NewOption> inPart(const std::string& part, std::vector<NewOption> options);
 

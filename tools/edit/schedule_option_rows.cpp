@@ -75,7 +75,8 @@ NewOption startRow(const char* name, const char* typeName, const char* help,
 
 std::vector<NewOption> startRows()
 {
-    auto time = rowOf("--at", "HH:MM", "The time of day; 00:30 unless given", "time");
+    auto time =
+        rowOf("--at", "HH:MM", "The time of day of --daily, --weekly and --monthly; 00:30 unless given", "time");
     time.needs = {"--daily", "--weekly", "--monthly"};
     auto months = rowOf("--months", "MONTHS", "The months of --monthly: Jan,Jul or Nov-Feb", "monthMask");
     months.needs = {"--monthly"};

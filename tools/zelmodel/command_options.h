@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -27,22 +28,29 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// The words that an option takes, as far as they are known. They are asked for only when somebody wants them.
+using WordsOfOptions = std::map<const CLI::Option*, std::function<std::vector<std::string>()>>;
+
 /// What more is to be said of an option or argument. Others are named as they were added, and were added before.
 class CommandOption
 {
 public:
-    explicit CommandOption(CLI::Option& option) : m_option(&option) {}
+    CommandOption(CLI::Option& option, WordsOfOptions& words) : m_option(&option), m_words(&words) {}
 
     CommandOption& required();
 
-    /// How its value is called, or what it looks like, in the help.
+    /// How its value is called, or what it looks like, in the help. FILE stands for the name of a file.
     CommandOption& typeName(const std::string& name);
 
     /// It takes one value at a time, however often it is given.
     CommandOption& oneAtATime();
 
+    /// No other words, and no number out of the range. The help tells them behind the description.
     CommandOption& oneOf(const std::vector<std::string>& words);
     CommandOption& between(unsigned first, unsigned last);
+
+    /// Words that a shell may offer, among others. More is typed behind one that ends in "=".
+    CommandOption& suggest(std::function<std::vector<std::string>()> words);
 
     /// Not together with the other one.
     CommandOption& excludes(const std::string& other);
@@ -52,6 +60,7 @@ public:
 
 private:
     CLI::Option* m_option;
+    WordsOfOptions* m_words;
 };
 
 /// The options and arguments of one command. Names with a dash are options, others are arguments in their order. What
@@ -60,7 +69,7 @@ private:
 class CommandOptions
 {
 public:
-    explicit CommandOptions(CLI::App& app) : m_app(&app) {}
+    CommandOptions(CLI::App& app, WordsOfOptions& words) : m_app(&app), m_words(&words) {}
 
     CommandOption add(const std::string& name, std::string& target, const std::string& description);
     CommandOption add(const std::string& name, std::optional<std::string>& target, const std::string& description);
@@ -84,5 +93,8 @@ public:
     void check(std::function<void()> call);
 
 private:
+    CommandOption optionOf(CLI::Option* option);
+
     CLI::App* m_app;
+    WordsOfOptions* m_words;
 };

@@ -7,11 +7,13 @@
 
 void addCalendar(Dispatcher& commands);
 void addCheck(Dispatcher& commands);
+void addCompletion(Dispatcher& commands);
 void addConvert(Dispatcher& commands);
 void addDiff(Dispatcher& commands);
 void addDump(Dispatcher& commands);
 void addExplain(Dispatcher& commands);
 void addLog(Dispatcher& commands);
+void addMan(Dispatcher& commands);
 void addNew(Dispatcher& commands);
 void addNext(Dispatcher& commands);
 void addSet(Dispatcher& commands);

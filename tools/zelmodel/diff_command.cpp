@@ -54,8 +54,8 @@ void addDiff(Dispatcher& commands)
     const auto arguments = std::make_shared<Arguments>();
     auto command = commands.define("diff", "Tell field by field in what two documents differ",
                                    [arguments](Session& session) { return diff(*arguments, session); });
-    command.add("A", arguments->first, "A document; - is standard input").required();
-    command.add("B", arguments->second, "A document of the same kind, in any form").required();
+    command.add("A", arguments->first, "A document; - is standard input").required().typeName("FILE");
+    command.add("B", arguments->second, "A document of the same kind, in any form").required().typeName("FILE");
     command.check([arguments] {
         if (arguments->first == StandardInput && arguments->second == StandardInput)
             throw UsageError("B", "Standard input can be read only once");

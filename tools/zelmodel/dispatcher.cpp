@@ -5,11 +5,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include "option_tree.h"
+
 Dispatcher::Dispatcher(const std::string& version)
     : m_app(
           std::make_unique<CLI::App>("Tells what the documents of backup jobs mean and when the jobs run", "zelmodel"))
 {
-    m_app->set_version_flag("--version", version);
+    m_app->set_help_flag("-h,--help", "Print this help and exit");
+    m_app->set_version_flag("--version", version, "Print the version and exit");
     m_app->require_subcommand(1);
 }
 
@@ -19,7 +22,7 @@ CommandOptions Dispatcher::define(const char* name, const char* description, Wor
 {
     auto& app = *m_app->add_subcommand(name, description);
     m_work[&app] = std::move(work);
-    CommandOptions command(app);
+    CommandOptions command(app, m_words);
     command.addFlag("--json", m_outputOptions.isJson, "Print JSON for programs");
     command.addFlag("--no-color", m_outputOptions.isPlain, "No bold or coloured text; as the variable NO_COLOR");
     command.addFlag("--reveal", m_outputOptions.showsSecrets, "Show secrets, which are hidden otherwise");
@@ -45,4 +48,9 @@ catch (const CLI::ParseError& error)
 int Dispatcher::run(Session& session) const
 {
     return m_work.at(m_app->get_subcommands().front())(session);
+}
+
+usage::Command Dispatcher::tree() const
+{
+    return treeOf(*m_app, m_words);
 }

@@ -7,6 +7,7 @@
 #include "command_options.h"
 #include "input.h"
 #include "output.h"
+#include "usage/command_tree.h"
 
 /// What a command works with: how it prints, and what it is reading.
 struct Session
@@ -41,8 +42,12 @@ public:
     /// The options of output that were given.
     const OutputOptions& outputOptions() const noexcept { return m_outputOptions; }
 
+    /// All commands with their options, as the help tells them.
+    usage::Command tree() const;
+
 private:
     std::unique_ptr<CLI::App> m_app;
+    WordsOfOptions m_words;
     OutputOptions m_outputOptions;
     std::map<const CLI::App*, Work> m_work;
 };

@@ -1,5 +1,6 @@
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "commands.h"
 #include "describe/words.h"
@@ -30,6 +31,15 @@ std::string listForms()
                 (form.isRecognised ? "" : " (only when it is named)");
     }
     return text;
+}
+
+std::vector<std::string> formWords()
+{
+    std::vector<std::string> words;
+    for (const auto& form : dump::allForms())
+        words.emplace_back(form.name);
+    words.emplace_back(KindHelp);
+    return words;
 }
 
 const dump::Form* formOf(const std::string& name)
@@ -70,5 +80,6 @@ void addDump(Dispatcher& commands)
         .add(
             "--kind", [arguments](const std::string& name) { arguments->form = formOf(name); },
             "The form, in place of the one that fits; help lists them")
-        .typeName("NAME");
+        .typeName("NAME")
+        .suggest(formWords);
 }

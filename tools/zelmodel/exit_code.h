@@ -1,14 +1,29 @@
 #pragma once
 
-/// What the command's exit status says.
+#include <iterator>
+
+/// What the command's exit status says. Of several files, the greatest one counts.
 namespace exit_code
 {
 
-constexpr int Fine = 0;
-constexpr int Findings = 1; ///< findings or differences
-constexpr int Usage = 2;
-constexpr int Refused = 3;      ///< a document was refused
-constexpr int CannotRead = 4;   ///< a file cannot be read, or the output not be written
-constexpr int NotScheduled = 5; ///< the job is disabled, or no day comes
+enum Code : int
+{
+    Fine,
+    Findings,
+    Usage,
+    Refused,
+    CannotRead,
+    NotScheduled,
+    Count ///< of the codes
+};
+
+/// The words for each code, in their order.
+inline constexpr const char* Meanings[] = {"fine",
+                                           "there are findings or differences",
+                                           "the call was wrong",
+                                           "a document was refused",
+                                           "a file cannot be read or written",
+                                           "the job is not scheduled then"};
+static_assert(std::size(Meanings) == Count);
 
 } // namespace exit_code

@@ -12,14 +12,19 @@
 namespace
 {
 
+std::vector<std::string> knownIds()
+{
+    std::vector<std::string> known;
+    for (const auto& rule : check::allRules())
+        known.emplace_back(rule.id);
+    return known;
+}
+
 void checkId(const std::string& id)
 {
     if (id.empty() || check::findRule(id) != nullptr)
         return;
-    std::vector<std::string> known;
-    for (const auto& rule : check::allRules())
-        known.emplace_back(rule.id);
-    const auto nearest = describe::nearestName(id, known);
+    const auto nearest = describe::nearestName(id, knownIds());
     throw UsageError("ID", "[" + id + "] is no finding of check" +
                                (nearest.empty() ? "" : "; did you mean " + nearest + '?'));
 }
@@ -43,6 +48,6 @@ void addExplain(Dispatcher& commands)
     const auto id = std::make_shared<std::string>();
     auto command = commands.define("explain", "Tell cause and cure of a finding of check, or list all of them",
                                    [id](Session& session) { return explain(*id, session); });
-    command.add("ID", *id, "The identifier in square brackets at the end of a finding");
+    command.add("ID", *id, "The identifier in square brackets at the end of a finding").suggest(knownIds);
     command.check([id] { checkId(*id); });
 }

@@ -51,6 +51,7 @@ void addFilterOptions(CommandOptions& command, Options& options)
             "--severity",
             [&filter](const std::string& word) { filter.leastSeverity = ISessionLogWriter::SeverityFromString(word); },
             "Only records of this severity and worse ones")
+        .typeName("WORD")
         .oneOf(severityWords());
     addMomentRangeOption(command, "--since", options.since, "Only records of this moment (UTC) and later ones");
     addMomentRangeOption(command, "--until", options.until,

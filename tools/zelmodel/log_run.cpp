@@ -104,7 +104,7 @@ int LogRun::work()
     }
     m_progress.hide();
     m_printer->end();
-    return m_arguments.isCheck && m_hasFindings ? std::max(m_code, exit_code::Findings) : m_code;
+    return m_arguments.isCheck && m_hasFindings ? std::max<int>(m_code, exit_code::Findings) : m_code;
 }
 
 void LogRun::read(const std::string& name)
@@ -182,5 +182,5 @@ void LogRun::fail(const LogFailure& failure)
 {
     m_progress.hide();
     m_printer->failed(failure);
-    m_code = std::max(m_code, failure.refused.empty() ? exit_code::CannotRead : exit_code::Refused);
+    m_code = std::max<int>(m_code, failure.refused.empty() ? exit_code::CannotRead : exit_code::Refused);
 }

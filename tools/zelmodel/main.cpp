@@ -21,11 +21,13 @@ void addCommands(Dispatcher& commands)
 {
     addCalendar(commands);
     addCheck(commands);
+    addCompletion(commands);
     addConvert(commands);
     addDiff(commands);
     addDump(commands);
     addExplain(commands);
     addLog(commands);
+    addMan(commands);
     addNew(commands);
     addNext(commands);
     addSet(commands);

@@ -68,6 +68,8 @@ void addOption(CommandOptions& command, const NewOption& row, const std::shared_
                                              row.help);
     if (!row.typeName.empty())
         option.typeName(row.typeName);
+    if (!row.words.empty())
+        option.suggest([&row] { return row.words; });
     if (row.choice.empty())
         return;
     for (const auto& other : edit::newOptions(request->kind))

@@ -103,6 +103,7 @@ void addNext(Dispatcher& commands)
     addDateOption(command, "--from", arguments->from, "The first day that counts; today unless given");
     addDateOption(command, "--until", arguments->until, "The last day that counts");
     command.add("-n,--count", arguments->count, "How many days; 10, or all with --until, unless given")
+        .typeName("N")
         .between(1, MostDays);
     command.addFlag("--previous", arguments->isPrevious, "The last days before --from, the latest first")
         .excludes("--until");

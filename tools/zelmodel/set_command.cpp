@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -158,6 +159,21 @@ catch (const edit::UnknownField& error)
     return exit_code::Usage;
 }
 
+std::vector<std::string> fieldBeginnings()
+{
+    using describe::EDocumentKind;
+    std::vector<std::string> beginnings;
+    for (const auto kind : {EDocumentKind::AgentJobOptions, EDocumentKind::ScheduleOptions,
+                            EDocumentKind::ScheduleWindow, EDocumentKind::GfsPolicy})
+    {
+        for (const auto& field : edit::fieldsOf(edit::newRecord(kind)))
+            beginnings.push_back(field.path + '=');
+    }
+    std::sort(beginnings.begin(), beginnings.end());
+    beginnings.erase(std::unique(beginnings.begin(), beginnings.end()), beginnings.end());
+    return beginnings;
+}
+
 } // namespace
 
 void addSet(Dispatcher& commands)
@@ -167,7 +183,8 @@ void addSet(Dispatcher& commands)
                                    [arguments](Session& session) { return run(*arguments, session); });
     command.add("FILE", arguments->file, "Job options, a schedule, a window or a GFS policy; - is standard input")
         .required();
-    command.add("FIELD=VALUE", arguments->values, "What to set: maxDays=14, schedule.jobStart.time=22:30");
+    command.add("FIELD=VALUE", arguments->values, "What to set: maxDays=14, schedule.jobStart.time=22:30")
+        .suggest(fieldBeginnings);
     command.addFlag("--fields", arguments->listsFields, "List the fields that can be set, and their present values");
     command.add("-o,--output", arguments->output, "A new file for the document; standard output unless given")
         .typeName("FILE");
