@@ -3,6 +3,9 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+set(ZELMODEL_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING
+    "Where zsh looks for completions, below the prefix; some systems keep those of packages apart")
+
 # The command finds the libraries wherever the whole is put. A package installs where the loader looks anyway, and sets
 # CMAKE_SKIP_INSTALL_RPATH.
 file(RELATIVE_PATH from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
@@ -30,6 +33,17 @@ function(zel_install_platform_headers)
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
     install(FILES ${ZELMODEL_BUILD_INCLUDE}/zelplatform/export.h
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zelplatform COMPONENT development)
+endfunction()
+
+# The command's manual page and what shells complete behind its name, where each looks for them.
+function(zel_install_usage)
+    install(FILES ${PROJECT_SOURCE_DIR}/man/zelmodel.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT command)
+    set(completions ${PROJECT_SOURCE_DIR}/completions)
+    install(FILES ${completions}/zelmodel.bash RENAME zelmodel
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT command)
+    install(FILES ${completions}/_zelmodel DESTINATION ${ZELMODEL_ZSH_COMPLETIONS} COMPONENT command)
+    install(FILES ${completions}/zelmodel.fish
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT command)
 endfunction()
 
 # The files by which CMake and pkg-config find the library.

@@ -76,19 +76,13 @@ _PROGRAM()
     fi
 
     for word in "${words[@]}"; do
-        [[ $word == "$typed"* ]] && COMPREPLY+=("$word")
+        [[ $word == "$typed"* ]] || continue
+        word=$prefix$word
+        COMPREPLY+=("${word#"$before"}")
     done
-    if [[ -n $files ]]; then
-        compopt -o filenames 2>/dev/null
-        while IFS= read -r word; do
-            COMPREPLY+=("$word")
-        done < <(compgen -f -- "$typed")
-    fi
-    for i in "${!COMPREPLY[@]}"; do
-        word=$prefix${COMPREPLY[i]}
-        COMPREPLY[i]=${word#"$before"}
-    done
-    [[ ${COMPREPLY[0]-} == *= ]] && compopt -o nospace 2>/dev/null
+    # The shell itself knows best how names of files are quoted.
+    [[ -n $files ]] && compopt -o default
+    [[ ${COMPREPLY[0]-} == *= ]] && compopt -o nospace
     return 0
 }
 

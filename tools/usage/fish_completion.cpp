@@ -104,7 +104,7 @@ public:
             ++number;
             const auto range = ' ' + std::to_string(number) + (argument.isRepeated ? "" : ' ' + std::to_string(number));
             const auto values = takesFile(argument) ? "-F" : wordsOf(argument);
-            text += values.empty() ? "" : line(place.path, range, values + descriptionOf(argument.description));
+            text += values.empty() ? "" : line(place.path, range, values);
         }
         for (const auto& option : place.options)
             text += line(place.path, {}, namesOf(option) + valueOf(option) + descriptionOf(option.description));

@@ -1,0 +1,227 @@
+# What fish completes behind zelmodel; printed by "zelmodel completion fish".
+
+# The commands before the cursor and, behind a colon, the number of the argument that comes next.
+function __zelmodel_given
+    set -l path
+    set -l number 1
+    set -l is_value no
+    set -l tokens (commandline -opc)
+    for word in $tokens[2..-1]
+        if test $is_value = yes
+            set is_value no
+            continue
+        end
+        switch "$path:$word"
+            case ':calendar' ':check' ':completion' ':convert' ':diff' ':dump' ':explain' ':log' ':man' ':new' ':next' ':set' ':show' ':why' 'new:job' 'new:schedule' 'new:window' 'new:gfs'
+                set path (string trim -- "$path $word")
+            case 'calendar:--window' 'calendar:--month' 'calendar:--year' 'check:--window' 'convert:-o' 'convert:--output' 'dump:--kind' 'log:--session' 'log:--severity' 'log:--since' 'log:--until' 'log:--grep' 'new job:--weekly' 'new job:--monthly' 'new job:--every' 'new job:--at' 'new job:--months' 'new job:--active-full' 'new job:--active-full-months' 'new job:--synthetic-full' 'new job:--synthetic-full-months' 'new job:--keep-points' 'new job:--keep-days' 'new job:--keep-deleted' 'new job:--compression' 'new job:--block-size' 'new job:--snapshot' 'new job:--pre-freeze' 'new job:--post-thaw' 'new job:--script-timeout' 'new job:--pre-job' 'new job:--post-job' 'new job:--retries' 'new job:--retry-wait' 'new job:--index' 'new job:--product-specific' 'new job:--gfs' 'new job:--window' 'new job:--window-output' 'new job:-o' 'new job:--output' 'new schedule:--weekly' 'new schedule:--monthly' 'new schedule:--every' 'new schedule:--at' 'new schedule:--months' 'new schedule:--active-full' 'new schedule:--active-full-months' 'new schedule:--synthetic-full' 'new schedule:--synthetic-full-months' 'new schedule:--window' 'new schedule:--window-output' 'new schedule:-o' 'new schedule:--output' 'new window:--open' 'new window:--closed' 'new window:--offset' 'new window:-o' 'new window:--output' 'new gfs:--gfs' 'new gfs:-o' 'new gfs:--output' 'next:--window' 'next:--from' 'next:--until' 'next:-n' 'next:--count' 'set:-o' 'set:--output' 'why:--window' 'why:--at' 'why:--from'
+                set is_value yes
+            case '*:-'
+                set number (math $number + 1)
+            case '*:-*'
+                # an option without a value, or with its value in the same word
+            case '*'
+                set number (math $number + 1)
+        end
+    end
+    echo "$path:$number"
+end
+
+# Whether these are the commands and, when numbers are told, the next argument is one of those from first to last.
+function __zelmodel_at -a path first last
+    set -l given (string split -r -m 1 : -- (__zelmodel_given))
+    test "$given[1]" = "$path"; or return 1
+    test -z "$first"; or test $given[2] -ge $first; or return 1
+    test -z "$last"; or test $given[2] -le $last
+end
+
+complete -c zelmodel -f
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'calendar' -d 'Show when a job starts as a calendar, or a window as a picture'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'check' -d 'Find everything that is wrong with documents'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'completion' -d 'Print a script that completes this command in a shell'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'convert' -d 'Write a document of any form in the current form of the agent'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'diff' -d 'Tell field by field in what two documents differ'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'dump' -d 'Tell a binary form byte by byte: keys, schedules, servers'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'explain' -d 'Tell cause and cure of a finding of check, or list all of them'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'log' -d 'Tell what session logs hold'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'man' -d 'Print the manual page, for man -l -'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'new' -d 'Write a document without knowing its XML'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'next' -d 'Tell on which days a job starts next'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'set' -d 'Change fields of a document; the changed document is printed'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'show' -d 'Tell in words what a document holds'
+complete -c zelmodel -n '__zelmodel_at "" 1' -a 'why' -d 'Tell why a job starts at a time, or why not'
+complete -c zelmodel -n '__zelmodel_at ""' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at ""' -l version -d 'Print the version and exit'
+complete -c zelmodel -n '__zelmodel_at "calendar" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "calendar"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l window -r -F -d 'A backup window: tell whether it is open at the start'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l month -x -d 'The month; that of today unless given'
+complete -c zelmodel -n '__zelmodel_at "calendar"' -l year -x -d 'A whole year'
+complete -c zelmodel -n '__zelmodel_at "check" 1' -F
+complete -c zelmodel -n '__zelmodel_at "check"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "check"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "check"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "check"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "check"' -l window -r -F -d 'The backup window that the jobs are to run in'
+complete -c zelmodel -n '__zelmodel_at "check"' -l sarif -d 'Print the findings in the format SARIF 2.1.0'
+complete -c zelmodel -n '__zelmodel_at "completion" 1 1' -a 'bash zsh fish'
+complete -c zelmodel -n '__zelmodel_at "completion"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "completion"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "completion"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "completion"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "convert" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "convert"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "convert"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "convert"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "convert"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "convert"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "convert"' -l in-place -d 'Replace the file, and keep the old one as FILE.orig'
+complete -c zelmodel -n '__zelmodel_at "diff" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "diff" 2 2' -F
+complete -c zelmodel -n '__zelmodel_at "diff"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "diff"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "diff"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "diff"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "dump" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "dump"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "dump"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "dump"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "dump"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "dump"' -l kind -x -a 'key-bundle key-set password-derived-key managing-server schedule-options job-start guid cloud-client text help' -d 'The form, in place of the one that fits; help lists them'
+complete -c zelmodel -n '__zelmodel_at "explain" 1 1' -a 'malformed-document missing-attribute missing-element refused-value unknown-document begin-is-no-date day-never-comes forms-disagree full-never-due narrowed-number never-runs no-such-time out-of-range refused-when-applied repeated-element retention-beyond-limits unknown-name window-always-closed window-closed-at-start day-misses-months fulls-without-effect ignored-text no-begin older-form rest-not-checked window-never-closes'
+complete -c zelmodel -n '__zelmodel_at "explain"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "explain"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "explain"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "explain"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "log" 1' -F
+complete -c zelmodel -n '__zelmodel_at "log"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "log"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "log"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "log"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "log"' -l summary -d 'A row for each session in place of the lines; --json implies it'
+complete -c zelmodel -n '__zelmodel_at "log"' -l json-lines -d 'A JSON object for each record, on a line'
+complete -c zelmodel -n '__zelmodel_at "log"' -l skipped -d 'List each skipped line with its number and the reason'
+complete -c zelmodel -n '__zelmodel_at "log"' -l session -x -d 'Only records of this session; may be given several times'
+complete -c zelmodel -n '__zelmodel_at "log"' -l severity -x -a 'processing info warn error' -d 'Only records of this severity and worse ones (processing, info, warn, error)'
+complete -c zelmodel -n '__zelmodel_at "log"' -l since -x -d 'Only records of this moment (UTC) and later ones'
+complete -c zelmodel -n '__zelmodel_at "log"' -l until -x -d 'Only records up to the end of this day, minute or second (UTC)'
+complete -c zelmodel -n '__zelmodel_at "log"' -l grep -x -d 'Only records with this text in their line, letter case counts'
+complete -c zelmodel -n '__zelmodel_at "log"' -l rotated -d 'Read FILE.2.gz, FILE.1 and so on before FILE'
+complete -c zelmodel -n '__zelmodel_at "log"' -l follow -d 'Go on with what is appended to the last FILE, until interrupted'
+complete -c zelmodel -n '__zelmodel_at "log"' -l check -d 'End with 1 when lines were skipped or errors told'
+complete -c zelmodel -n '__zelmodel_at "man"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "man"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "man"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "man"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "new" 1' -a 'job' -d 'Write job options'
+complete -c zelmodel -n '__zelmodel_at "new" 1' -a 'schedule' -d 'Write schedule options'
+complete -c zelmodel -n '__zelmodel_at "new" 1' -a 'window' -d 'Write a backup window; it is closed unless told otherwise'
+complete -c zelmodel -n '__zelmodel_at "new" 1' -a 'gfs' -d 'Write a GFS policy; it is off unless told otherwise'
+complete -c zelmodel -n '__zelmodel_at "new"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "new"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "new"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "new"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "new job"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l daily -d 'Start every day'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l weekly -x -d 'Start on these week days: Mon,Fri or Mon-Fri'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l monthly -x -d 'Start once in a month: on its day 15, the last, or the "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l every -x -d 'Start periodically: 4h, 90m'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l continuously -d 'Start again as soon as a run has ended'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l at -x -d 'The time of day of --daily, --weekly and --monthly; 00:30 unless given'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l months -x -d 'The months of --monthly: Jan,Jul or Nov-Feb'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l active-full -x -d 'Read everything afresh on: Sat, Mon-Fri, or monthly on 15, last, "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l active-full-months -x -d 'The months of --active-full when it is monthly: Jan,Jul'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l synthetic-full -x -d 'Build a full from restore points on: Sat, Mon-Fri, or monthly on 15, last, "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l synthetic-full-months -x -d 'The months of --synthetic-full when it is monthly: Jan,Jul'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l keep-points -x -d 'Keep so many restore points'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l keep-days -x -d 'Keep the restore points of so many days'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l keep-deleted -x -d 'Keep data of machines that vanished from the job so long'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l compression -x -a 'NoCompression Rle Lz4 Zstd3 Zstd9' -d 'NoCompression, Rle, Lz4, Zstd3, Zstd9, or a level 0 to 4'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l block-size -x -a '256 512 1024 2048 4096 8192' -d '256, 512, 1024, 2048, 4096 or 8192'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l no-dedup -d 'No deduplication'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l snapshot -x -a 'SnapshotRequired NoSnapshot Hybrid' -d 'SnapshotRequired, NoSnapshot or Hybrid'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l pre-freeze -x -d 'Script before freezing'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l post-thaw -x -d 'Script after thawing'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l ignore-script-failures -d 'Failures of freezing and thawing are ignored'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l script-timeout -x -d 'Time-out of the freeze and thaw scripts'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l pre-job -x -d 'Script before the job'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l post-job -x -d 'Script after the job'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l retries -x -d 'How often a failed run is tried again'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l retry-wait -x -d 'How long to wait between: 10m, 1h30m'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l index -x -a 'all none' -d 'all, none, only:FOLDERS or except:FOLDERS'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l product-specific -x -d 'Product-specific text'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l gfs -x -d 'Restore points for the long term: weekly=4,monthly=12,yearly=7'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l window -x -d 'A backup window, which is a document of its own: Open in these hours only: 20-24, or Mon-Fri 20-24,Sat 0-24'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l window-output -r -F -d 'The file of the window; beside the output unless given: job.window.xml for job.xml'
+complete -c zelmodel -n '__zelmodel_at "new job"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "new job"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l daily -d 'Start every day'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l weekly -x -d 'Start on these week days: Mon,Fri or Mon-Fri'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l monthly -x -d 'Start once in a month: on its day 15, the last, or the "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l every -x -d 'Start periodically: 4h, 90m'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l continuously -d 'Start again as soon as a run has ended'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l at -x -d 'The time of day of --daily, --weekly and --monthly; 00:30 unless given'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l months -x -d 'The months of --monthly: Jan,Jul or Nov-Feb'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l active-full -x -d 'Read everything afresh on: Sat, Mon-Fri, or monthly on 15, last, "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l active-full-months -x -d 'The months of --active-full when it is monthly: Jan,Jul'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l synthetic-full -x -d 'Build a full from restore points on: Sat, Mon-Fri, or monthly on 15, last, "first Mon"'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l synthetic-full-months -x -d 'The months of --synthetic-full when it is monthly: Jan,Jul'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l window -x -d 'A backup window, which is a document of its own: Open in these hours only: 20-24, or Mon-Fri 20-24,Sat 0-24'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l window-output -r -F -d 'The file of the window; beside the output unless given: job.window.xml for job.xml'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "new schedule"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "new window"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l open -x -d 'Open in these hours only: 20-24, or Mon-Fri 20-24,Sat 0-24'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l closed -x -d 'Open but in these hours'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l offset -x -d 'Offset of the hours; it is stored only'
+complete -c zelmodel -n '__zelmodel_at "new window"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "new window"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -l gfs -x -d 'Restore points for the long term: weekly=4,monthly=12,yearly=7'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "new gfs"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "next" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "next"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "next"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "next"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "next"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "next"' -l window -r -F -d 'A backup window: tell whether it is open at the start'
+complete -c zelmodel -n '__zelmodel_at "next"' -l from -x -d 'The first day that counts; today unless given'
+complete -c zelmodel -n '__zelmodel_at "next"' -l until -x -d 'The last day that counts'
+complete -c zelmodel -n '__zelmodel_at "next"' -s n -l count -x -d 'How many days; 10, or all with --until, unless given (1 to 1000)'
+complete -c zelmodel -n '__zelmodel_at "next"' -l previous -d 'The last days before --from, the latest first'
+complete -c zelmodel -n '__zelmodel_at "next"' -l ical -d 'Print a calendar for other programs (RFC 5545)'
+complete -c zelmodel -n '__zelmodel_at "set" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "set" 2' -a 'activeFull.dayOfMonth= activeFull.isEnabled= activeFull.monthMask= activeFull.scheduleType= activeFull.weekDayNumber= activeFull.weekMask= blockSize= compression= dedupEnabled= deletedVmDataRetentionDays= freezeThawScriptsTimeout= friday= gfsPolicy.isEnabled= gfsPolicy.monthly.beginTimeUtc= gfsPolicy.monthly.desiredTime= gfsPolicy.monthly.isEnabled= gfsPolicy.monthly.keepCount= gfsPolicy.monthly= gfsPolicy.weekly.beginTimeUtc= gfsPolicy.weekly.desiredTime= gfsPolicy.weekly.isEnabled= gfsPolicy.weekly.keepCount= gfsPolicy.weekly= gfsPolicy.yearly.beginTimeUtc= gfsPolicy.yearly.desiredTime= gfsPolicy.yearly.isEnabled= gfsPolicy.yearly.keepCount= gfsPolicy.yearly= hourlyOffsetMinutes= ignoreFreezeThawFailures= indexing.folders= indexing.type= isEnabled= jobStart.dayOfMonth= jobStart.isEnabled= jobStart.monthMask= jobStart.scheduleType= jobStart.time= jobStart.weekDayNumber= jobStart.weekMask= kind= maxDays= maxPoints= monday= monthly.beginTimeUtc= monthly.desiredTime= monthly.isEnabled= monthly.keepCount= monthly= postJobCommand= postThawCommand= preFreezeCommand= preJobCommand= productSpecific= retentionType= retryCount= retryTimeoutMs= saturday= schedule.activeFull.dayOfMonth= schedule.activeFull.isEnabled= schedule.activeFull.monthMask= schedule.activeFull.scheduleType= schedule.activeFull.weekDayNumber= schedule.activeFull.weekMask= schedule.jobStart.dayOfMonth= schedule.jobStart.isEnabled= schedule.jobStart.monthMask= schedule.jobStart.scheduleType= schedule.jobStart.time= schedule.jobStart.weekDayNumber= schedule.jobStart.weekMask= schedule.syntheticFull.dayOfMonth= schedule.syntheticFull.isEnabled= schedule.syntheticFull.monthMask= schedule.syntheticFull.scheduleType= schedule.syntheticFull.weekDayNumber= schedule.syntheticFull.weekMask= snapshotMode= sunday= syntheticFull.dayOfMonth= syntheticFull.isEnabled= syntheticFull.monthMask= syntheticFull.scheduleType= syntheticFull.weekDayNumber= syntheticFull.weekMask= thursday= tuesday= wednesday= weekly.beginTimeUtc= weekly.desiredTime= weekly.isEnabled= weekly.keepCount= weekly= yearly.beginTimeUtc= yearly.desiredTime= yearly.isEnabled= yearly.keepCount= yearly='
+complete -c zelmodel -n '__zelmodel_at "set"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "set"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "set"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "set"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "set"' -l fields -d 'List the fields that can be set, and their present values'
+complete -c zelmodel -n '__zelmodel_at "set"' -s o -l output -r -F -d 'A new file for the document; standard output unless given'
+complete -c zelmodel -n '__zelmodel_at "set"' -l in-place -d 'Replace the file, and keep the old one as FILE.orig'
+complete -c zelmodel -n '__zelmodel_at "show" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "show"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "show"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "show"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "show"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "why" 1 1' -F
+complete -c zelmodel -n '__zelmodel_at "why"' -s h -l help -d 'Print this help and exit'
+complete -c zelmodel -n '__zelmodel_at "why"' -l json -d 'Print JSON for programs'
+complete -c zelmodel -n '__zelmodel_at "why"' -l no-color -d 'No bold or coloured text; as the variable NO_COLOR'
+complete -c zelmodel -n '__zelmodel_at "why"' -l reveal -d 'Show secrets, which are hidden otherwise'
+complete -c zelmodel -n '__zelmodel_at "why"' -l window -r -F -d 'A backup window: tell whether it is open at the start'
+complete -c zelmodel -n '__zelmodel_at "why"' -l at -x -d 'The local time that is asked about'
+complete -c zelmodel -n '__zelmodel_at "why"' -l from -x -d 'The day from whose 00:00 the starts of a periodical job are counted; the day of --at unless given'
