@@ -17,6 +17,7 @@ function(zel_add_test_support)
         ZELMODEL_GOLDEN_DIR="${CMAKE_CURRENT_SOURCE_DIR}/golden"
         ZELMODEL_FAULTS_DIR="${CMAKE_CURRENT_SOURCE_DIR}/faults"
         ZELMODEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples"
+        ZELMODEL_VERSION="${PROJECT_VERSION}"
         ZELMODEL_COMMAND="${command}")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)

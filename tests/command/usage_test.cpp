@@ -72,7 +72,7 @@ TEST(Version, IsTold)
 {
     const auto result = runCommand({"--version"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "zelmodel 1.0.0\n");
+    EXPECT_EQ(result.output, "zelmodel " ZELMODEL_VERSION "\n");
     EXPECT_EQ(result.messages, "");
 }
 

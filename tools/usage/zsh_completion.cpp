@@ -105,7 +105,7 @@ std::string bodyWithCommands(const std::string& function, const Place& place)
 {
     std::string commands;
     for (const auto& below : place.command->commands)
-        commands += "        " + quoted(masked(below.name, "\\:") + ':' + below.description) + '\n';
+        commands += "        " + quoted(masked(below.name, "\\:") + ':' + masked(below.description, "\\")) + '\n';
     auto specs = specsOf(place);
     specs.emplace_back("1:command:->command");
     specs.emplace_back("*::argument:->argument");
