@@ -58,6 +58,18 @@ std::string chapterOf(const std::string& command)
     return begin == std::string::npos ? "" : page.substr(begin, page.find("\n## ", begin + 1) - begin);
 }
 
+/// Whether the chapter has one of the names of an option, "-o FILE, --output FILE", as code.
+bool isNamed(const std::string& term, const std::string& chapter)
+{
+    const std::regex name(R"((^|, )(-[\w-]+))");
+    for (std::sregex_iterator found(term.begin(), term.end(), name), end; found != end; ++found)
+    {
+        if (std::regex_search(chapter, std::regex('`' + (*found)[2].str() + "[ `]")))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 TEST(Manual, TheFilesAreAsTheCommandPrintsThem)
@@ -108,11 +120,7 @@ TEST(Manual, EveryCommandAndOptionIsOnThePage)
             EXPECT_NE(chapter, "") << (*found)[1];
             continue;
         }
-        const std::string term = (*found)[2];
-        const auto last = term.rfind("--");
-        const auto name = term.substr(last, term.find(' ', last) - last);
-        EXPECT_TRUE(std::regex_search(chapter, std::regex('`' + name + "[ `]")))
-            << name << " in " << chapter.substr(1, chapter.find('\n', 1));
+        EXPECT_TRUE(isNamed((*found)[2], chapter)) << (*found)[2] << chapter.substr(0, chapter.find('\n', 1));
         ++options;
     }
     EXPECT_GT(options, 60);
@@ -143,7 +151,6 @@ TEST(Manual, ItsExamplesAreRight)
         }
         const auto result = runCommand(words);
         EXPECT_LT(result.exitCode, 2) << line << '\n' << result.messages;
-        EXPECT_NE(result.output, "") << line;
     }
     EXPECT_EQ(count, 8);
 }
