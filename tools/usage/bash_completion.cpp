@@ -1,5 +1,7 @@
 #include "completions.h"
 
+#include <algorithm>
+
 #include "shell_text.h"
 
 namespace usage
@@ -96,9 +98,8 @@ std::string keyOf(const Option& argument)
 
 std::string arrayOf(const std::string& name, const std::vector<std::string>& items, std::size_t blanks)
 {
-    std::vector<std::string> words;
-    for (const auto& item : items)
-        words.push_back(word(item));
+    std::vector<std::string> words(items.size());
+    std::transform(items.begin(), items.end(), words.begin(), word);
     const auto start = std::string(blanks, ' ') + name + "=(";
     return items.empty() ? "" : start + wrapped(words, start.size()) + ")\n";
 }

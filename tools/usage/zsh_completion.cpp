@@ -62,6 +62,18 @@ std::string signOf(const Option& option, const std::string& name)
     return name.rfind("--", 0) == 0 ? "=" : "+";
 }
 
+std::string specOf(const Option& option, const std::string& name, const std::vector<std::string>& without)
+{
+    std::string spec;
+    for (const auto& other : without)
+        spec += (spec.empty() ? "(" : " ") + other;
+    spec += spec.empty() ? "" : ")";
+    spec += option.isRepeated ? "*" : "";
+    spec += name + signOf(option, name) + '[' + masked(option.description, "\\[]:") + ']';
+    spec += option.value.empty() ? "" : valueOf(option);
+    return spec;
+}
+
 std::vector<std::string> specsOf(const Place& place)
 {
     std::vector<std::string> specs;
@@ -69,13 +81,8 @@ std::vector<std::string> specsOf(const Place& place)
     {
         auto others = option.isRepeated ? std::vector<std::string>() : option.names;
         others.insert(others.end(), option.excludes.begin(), option.excludes.end());
-        std::string without;
-        for (const auto& other : others)
-            without += (without.empty() ? "" : " ") + other;
         for (const auto& name : option.names)
-            specs.push_back((without.empty() ? "" : '(' + without + ')') + (option.isRepeated ? "*" : "") + name +
-                            signOf(option, name) + '[' + masked(option.description, "\\[]:") + ']' +
-                            (option.value.empty() ? "" : valueOf(option)));
+            specs.push_back(specOf(option, name, others));
     }
     for (const auto& argument : place.command->arguments)
         specs.push_back((argument.isRepeated ? "*" : argument.isRequired ? "" : ":") + valueOf(argument));

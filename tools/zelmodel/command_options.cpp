@@ -81,7 +81,7 @@ CommandOption CommandOptions::add(const std::string& name, std::vector<std::stri
     return optionOf(m_app->add_option(name, target, description));
 }
 
-CommandOption CommandOptions::add(const std::string& name, std::function<void(const std::string& value)> take,
+CommandOption CommandOptions::add(const std::string& name, const std::function<void(const std::string& value)>& take,
                                   const std::string& description)
 {
     return optionOf(m_app->add_option_function<std::string>(name, take, description));

@@ -79,7 +79,7 @@ public:
     CommandOption add(const std::string& name, std::vector<std::string>& target, const std::string& description);
 
     /// The function takes the value, and throws UsageError when it is wrong.
-    CommandOption add(const std::string& name, std::function<void(const std::string& value)> take,
+    CommandOption add(const std::string& name, const std::function<void(const std::string& value)>& take,
                       const std::string& description);
 
     /// An option without a value.

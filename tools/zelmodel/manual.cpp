@@ -55,11 +55,10 @@ Section security()
 {
     return {"SECURITY",
             {"Secrets in documents, such as keys, passwords and their hints, are hidden in what is told for people and "
-             "as JSON; only their length is shown. With --reveal they are shown, and stay in the terminal's history "
-             "and wherever the output goes. A document that convert, new or set writes holds its secrets in any case: "
-             "keep it like the document that it was made from.",
-             "Documents and logs may come from anybody. What could act on a terminal is escaped. Lengths and counts in "
-             "them are not trusted."}};
+             "as JSON; only their length is shown. With --reveal they are shown: on the terminal and in what it "
+             "remembers, in a file, in a pipe. A document that convert or set writes holds the secrets that it held "
+             "before and is to be kept like that one. A terminal gets no such document of convert without --reveal.",
+             "Documents and logs may come from anybody: what could act on a terminal is escaped."}};
 }
 
 Section examples()

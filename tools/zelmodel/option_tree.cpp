@@ -1,6 +1,5 @@
 #include "option_tree.h"
 
-#include <algorithm>
 #include <set>
 
 #include <CLI/CLI.hpp>
@@ -32,10 +31,11 @@ std::string valueOf(const CLI::Option& option)
 // The parser keeps a set of addresses: the order is that of the definitions.
 std::vector<std::string> lastNames(const CLI::App& app, const std::set<CLI::Option*>& options)
 {
+    const std::set<const CLI::Option*> wanted(options.begin(), options.end());
     std::vector<std::string> names;
     for (const auto* option : app.get_options())
     {
-        if (std::find(options.begin(), options.end(), option) != options.end())
+        if (wanted.count(option) != 0)
             names.push_back(namesOf(*option).back());
     }
     return names;
