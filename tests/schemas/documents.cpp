@@ -1,0 +1,161 @@
+#include "documents.h"
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <iterator>
+
+#include <tinyxml2.h>
+
+#include <readers/outcome.h>
+#include <support/golden.h>
+#include <zelplatform/xmlpp/xmlpp.h>
+
+#include "describe/document.h"
+
+namespace zelmodel_test
+{
+namespace
+{
+
+using describe::EDocumentKind;
+using readers::Reader;
+
+// What these write is a part of a document: a mask, a rule, an endpoint below an element of the test's own.
+constexpr const char* WritersOfParts[] = {
+    "CScheduleTime.FromXml",
+    "CWeekMask.FromXml",
+    "CMonthMask.FromXml",
+    "CDayOfMonth.FromXml",
+    "CScheduleCalendar.FromXml",
+    "SGfsPolicyInfoBase.fromXml.weekly",
+    "SGfsPolicyInfoBase.fromXml.monthly",
+    "SGfsPolicyInfoBase.fromXml.yearly",
+    "SAmazonS3Endpoint.FromXmlNode",
+    "SAmazonS3Credentials.FromXmlNode",
+    "SAmazonS3Proxy.FromXmlNode",
+};
+
+std::vector<NamedText> filesBelow(const std::string& folder, const std::string& title)
+{
+    std::vector<NamedText> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+    {
+        const auto path = entry.path().string();
+        if (entry.path().extension() == ".xml")
+            files.push_back({title + path.substr(folder.size()), fileText(path)});
+    }
+    std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
+    return files;
+}
+
+bool isWriterOfParts(const Reader& reader)
+{
+    return std::find(std::begin(WritersOfParts), std::end(WritersOfParts), reader.name) != std::end(WritersOfParts);
+}
+
+const char* enclosedElement(EDocumentKind kind)
+{
+    switch (kind)
+    {
+    case EDocumentKind::RepositoryLimitations: return "JobSettings";
+    case EDocumentKind::Immutability: return "ImmutabilitySettings";
+    case EDocumentKind::DirectImmutability: return "DirectBackupImmutabilitySettings";
+    default: return nullptr;
+    }
+}
+
+// Other programs take no text with several elements at the top: each is a document for them.
+std::vector<std::string> documentsIn(const std::string& text)
+{
+    tinyxml2::XMLDocument document;
+    document.Parse(text.c_str());
+    if (document.RootElement() == nullptr || document.RootElement()->NextSiblingElement() == nullptr)
+        return {text};
+    std::vector<std::string> texts;
+    for (const auto* root = document.RootElement(); root != nullptr; root = root->NextSiblingElement())
+    {
+        tinyxml2::XMLPrinter printer(nullptr, true);
+        root->Accept(&printer);
+        texts.emplace_back(printer.CStr());
+    }
+    return texts;
+}
+
+void addWritten(const Reader& reader, std::vector<NamedText>& written)
+{
+    if (isWriterOfParts(reader))
+        return;
+    for (const auto& sample : reader.samples)
+    {
+        for (auto& text : documentsIn(readers::attempt(reader, sample).written.value_or("")))
+            written.push_back({reader.name, std::move(text)});
+    }
+}
+
+std::vector<NamedText> allOfKind(const SchemaKind& kind, const std::vector<NamedText>& documents)
+{
+    std::vector<NamedText> found;
+    std::copy_if(documents.begin(), documents.end(), std::back_inserter(found),
+                 [&](const NamedText& document) { return isOfKind(kind, document.text); });
+    return found;
+}
+
+} // namespace
+
+std::vector<NamedText> documentsOf(const SchemaKind& kind)
+{
+    static const auto all = [] {
+        auto files = filesBelow(ZELMODEL_GOLDEN_DIR, "golden");
+        auto examples = filesBelow(ZELMODEL_EXAMPLES_DIR, "examples");
+        std::move(examples.begin(), examples.end(), std::back_inserter(files));
+        return files;
+    }();
+    return allOfKind(kind, all);
+}
+
+std::vector<NamedText> writtenDocumentsOf(const SchemaKind& kind)
+{
+    static const auto all = [] {
+        std::vector<NamedText> written;
+        for (const auto& reader : readers::all())
+            addWritten(reader, written);
+        return written;
+    }();
+    return allOfKind(kind, all);
+}
+
+bool isOfKind(const SchemaKind& kind, const std::string& text)
+{
+    try
+    {
+        return describe::kindOf(xmlpp::CXmlDocument::Unserialize(text)) == kind.kind;
+    }
+    catch (const std::exception&)
+    {
+        return false;
+    }
+}
+
+bool isRead(const std::string& text)
+{
+    const Reader shown{
+        "show", [](const std::string& document) { return describe::Document(document).describe().name; }, {}};
+    return readers::attempt(shown, text).written.has_value();
+}
+
+std::string withoutOwner(const SchemaKind& kind, const std::string& text)
+{
+    const auto* name = enclosedElement(kind.kind);
+    tinyxml2::XMLDocument document;
+    document.Parse(text.c_str());
+    const auto* root = document.RootElement();
+    const auto* element = name == nullptr || root == nullptr ? nullptr : root->FirstChildElement(name);
+    if (element == nullptr)
+        return text;
+    tinyxml2::XMLPrinter printer(nullptr, true);
+    element->Accept(&printer);
+    return printer.CStr();
+}
+
+} // namespace zelmodel_test
