@@ -17,7 +17,7 @@ struct SchemaKind
     const char* name; ///< of the files "NAME.xsd", what is written, and "NAME.rng", what is read
     describe::EDocumentKind kind;
 
-    friend void PrintTo(const SchemaKind& kind, std::ostream* out) { *out << kind.name; }
+    friend void PrintTo(const SchemaKind& shown, std::ostream* out) { *out << shown.name; }
 };
 
 const std::vector<SchemaKind>& schemaKinds();

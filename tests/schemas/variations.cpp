@@ -158,7 +158,8 @@ private:
         if (element.FirstChildElement() == nullptr && element.GetText() != nullptr)
         {
             for (const auto& value : valuesFor(element.GetText()))
-                add(nameOf(element), number, [&](XMLElement& varied) { varied.SetText(value.c_str()); });
+                add(
+                    nameOf(element), number, [&](XMLElement& varied) { varied.SetText(value.c_str()); }, value);
         }
     }
 
@@ -178,17 +179,18 @@ private:
         const auto* name = attribute.Name();
         add(place, number, [&](XMLElement& varied) { varied.DeleteAttribute(name); });
         for (const auto& value : valuesFor(attribute.Value()))
-            add(place, number, [&](XMLElement& varied) { varied.SetAttribute(name, value.c_str()); });
+            add(
+                place, number, [&](XMLElement& varied) { varied.SetAttribute(name, value.c_str()); }, value);
     }
 
-    void add(const std::string& place, int number, const Change& change)
+    void add(const std::string& place, int number, const Change& change, const std::string& value = {})
     {
         XMLDocument document;
         document.Parse(m_text.c_str());
         change(*elementAt(*document.RootElement(), number));
         tinyxml2::XMLPrinter printer(nullptr, true);
         document.Print(&printer);
-        m_variations.push_back({place, printer.CStr()});
+        m_variations.push_back({place, printer.CStr(), value});
     }
 
     // The element of the number in the order of the document; the number is counted down.

@@ -12,6 +12,7 @@ struct Variation
 {
     std::string place; ///< "Schedule@Type" for an attribute, "RetainDays" for an element
     std::string text;
+    std::string value; ///< what the place got, if it got a value
 };
 
 /// Every attribute is taken away and gets each of many values, texts of elements too; every element is taken away, gets
