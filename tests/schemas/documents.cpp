@@ -4,6 +4,8 @@
 #include <exception>
 #include <filesystem>
 #include <iterator>
+#include <map>
+#include <optional>
 
 #include <tinyxml2.h>
 
@@ -93,12 +95,35 @@ void addWritten(const Reader& reader, std::vector<NamedText>& written)
     }
 }
 
-std::vector<NamedText> allOfKind(const SchemaKind& kind, const std::vector<NamedText>& documents)
+std::optional<EDocumentKind> kindOf(const std::string& text)
 {
-    std::vector<NamedText> found;
-    std::copy_if(documents.begin(), documents.end(), std::back_inserter(found),
-                 [&](const NamedText& document) { return isOfKind(kind, document.text); });
-    return found;
+    try
+    {
+        return describe::kindOf(xmlpp::CXmlDocument::Unserialize(text));
+    }
+    catch (const std::exception&)
+    {
+        return std::nullopt;
+    }
+}
+
+using Sorted = std::map<EDocumentKind, std::vector<NamedText>>;
+
+Sorted sorted(const std::vector<NamedText>& documents)
+{
+    Sorted kinds;
+    for (const auto& document : documents)
+    {
+        if (const auto kind = kindOf(document.text))
+            kinds[*kind].push_back(document);
+    }
+    return kinds;
+}
+
+std::vector<NamedText> find(const Sorted& documents, const SchemaKind& kind)
+{
+    const auto found = documents.find(kind.kind);
+    return found != documents.end() ? found->second : std::vector<NamedText>{};
 }
 
 } // namespace
@@ -109,9 +134,9 @@ std::vector<NamedText> documentsOf(const SchemaKind& kind)
         auto files = filesBelow(ZELMODEL_GOLDEN_DIR, "golden");
         auto examples = filesBelow(ZELMODEL_EXAMPLES_DIR, "examples");
         std::move(examples.begin(), examples.end(), std::back_inserter(files));
-        return files;
+        return sorted(files);
     }();
-    return allOfKind(kind, all);
+    return find(all, kind);
 }
 
 std::vector<NamedText> writtenDocumentsOf(const SchemaKind& kind)
@@ -120,21 +145,14 @@ std::vector<NamedText> writtenDocumentsOf(const SchemaKind& kind)
         std::vector<NamedText> written;
         for (const auto& reader : readers::all())
             addWritten(reader, written);
-        return written;
+        return sorted(written);
     }();
-    return allOfKind(kind, all);
+    return find(all, kind);
 }
 
 bool isOfKind(const SchemaKind& kind, const std::string& text)
 {
-    try
-    {
-        return describe::kindOf(xmlpp::CXmlDocument::Unserialize(text)) == kind.kind;
-    }
-    catch (const std::exception&)
-    {
-        return false;
-    }
+    return kindOf(text) == kind.kind;
 }
 
 bool isRead(const std::string& text)
