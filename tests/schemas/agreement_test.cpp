@@ -151,6 +151,22 @@ TEST_P(Agreements, OfWritersAndReader)
     EXPECT_EQ(expected != beyondSchemas.end() ? expected->second : Places(), beyond);
 }
 
+// Whatever is read, what is made of it keeps to the written form.
+TEST_P(Agreements, OfWritersAndSchema)
+{
+    std::set<std::string> written;
+    for (const auto& variation : variationsOfKind(GetParam(), agreementOf(GetParam().name).golden))
+    {
+        for (const auto& text : rewritten(GetParam(), variation.text))
+            written.insert(withoutOwner(GetParam(), text));
+    }
+    const std::vector<std::string> texts(written.begin(), written.end());
+    const auto verdicts = judge(pathOfXsd(GetParam()), texts);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        EXPECT_TRUE(verdicts[i].isValid) << texts[i] << '\n' << verdicts[i].messages;
+    EXPECT_EQ(isOnlyRead(GetParam()), texts.empty());
+}
+
 INSTANTIATE_TEST_SUITE_P(All, Agreements, testing::ValuesIn(schemaKinds()), nameOfKind);
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <zelplatform/xmlpp/xmlpp.h>
 
 #include "describe/document.h"
+#include "describe/rewrite.h"
 
 namespace zelmodel_test
 {
@@ -160,6 +161,19 @@ bool isRead(const std::string& text)
     const Reader shown{
         "show", [](const std::string& document) { return describe::Document(document).describe().name; }, {}};
     return readers::attempt(shown, text).written.has_value();
+}
+
+std::vector<std::string> rewritten(const SchemaKind& kind, const std::string& text)
+{
+    const Reader writer{"rewrite",
+                        [&](const std::string& document) {
+                            return describe::rewrite(document, kind.kind, describe::Document(document).describe());
+                        },
+                        {}};
+    auto documents = documentsIn(readers::attempt(writer, text).written.value_or(""));
+    const auto isOther = [&](const std::string& document) { return !isOfKind(kind, document); };
+    documents.erase(std::remove_if(documents.begin(), documents.end(), isOther), documents.end());
+    return documents;
 }
 
 std::string withoutOwner(const SchemaKind& kind, const std::string& text)

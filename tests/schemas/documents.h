@@ -27,6 +27,10 @@ bool isOfKind(const SchemaKind& kind, const std::string& text);
 /// Whether the reader of its kind takes the text.
 bool isRead(const std::string& text);
 
+/// The documents that the writer of its kind makes of the text; none when the text is refused, or the kind is only
+/// read.
+std::vector<std::string> rewritten(const SchemaKind& kind, const std::string& text);
+
 /// The element that the kind is about: settings without the document around them, any other text as it stands.
 std::string withoutOwner(const SchemaKind& kind, const std::string& text);
 

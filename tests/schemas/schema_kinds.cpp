@@ -46,6 +46,12 @@ const SchemaKind& findSchemaKind(const std::string& name)
     return *found;
 }
 
+bool isOnlyRead(const SchemaKind& kind)
+{
+    return kind.kind == EDocumentKind::ServerJobOptions || kind.kind == EDocumentKind::DirectImmutability ||
+           kind.kind == EDocumentKind::TaskLogRecord;
+}
+
 std::string nameOfKind(const testing::TestParamInfo<SchemaKind>& info)
 {
     std::string name = info.param.name;

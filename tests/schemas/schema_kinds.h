@@ -25,6 +25,9 @@ const std::vector<SchemaKind>& schemaKinds();
 /// Throws std::out_of_range when there is none of the name.
 const SchemaKind& findSchemaKind(const std::string& name);
 
+/// Whether the library has no writer of the kind.
+bool isOnlyRead(const SchemaKind& kind);
+
 /// The kind's name as gtest takes names.
 std::string nameOfKind(const testing::TestParamInfo<SchemaKind>& info);
 

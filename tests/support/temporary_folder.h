@@ -17,8 +17,8 @@ namespace zelmodel_test
 class TemporaryFolder
 {
 public:
-    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
-        : m_path((parent / "zelmodel_test_XXXXXX").string())
+    TemporaryFolder() : TemporaryFolder(std::filesystem::temp_directory_path()) {}
+    explicit TemporaryFolder(const std::filesystem::path& parent) : m_path((parent / "zelmodel_test_XXXXXX").string())
     {
         if (::mkdtemp(m_path.data()) == nullptr)
             throw std::runtime_error("The test's folder cannot be made.");
