@@ -46,6 +46,9 @@ function(zel_install_usage)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT command)
 endfunction()
 
+# For programs in other languages that read or write the same documents.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemas DESTINATION ${CMAKE_INSTALL_DATADIR}/zelmodellib COMPONENT development)
+
 # The files by which CMake and pkg-config find the library.
 function(zel_install_package_files)
     set(ZELMODEL_FIND_PLATFORM "")
