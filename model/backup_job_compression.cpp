@@ -12,7 +12,7 @@ namespace
 
 using Rows = BackupJobCompression;
 
-constexpr detail::EnumRows<Rows::type, 7> Names{{
+constexpr auto Names = detail::enumRows<Rows::type>({
     {Rows::NoCompression, "NoCompression"},
     {Rows::Rle, "Rle"},
     {Rows::Lz4, "Lz4"},
@@ -20,23 +20,23 @@ constexpr detail::EnumRows<Rows::type, 7> Names{{
     {Rows::Zstd9, "Zstd9"},
     {Rows::Zstd3, "ZlibLow", detail::ERowUse::ReadOnly},
     {Rows::Zstd9, "ZlibHigh", detail::ERowUse::ReadOnly},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 5> AgentLevels{{
+constexpr auto AgentLevels = detail::enumRows<Rows::type>({
     {Rows::NoCompression, "0"},
     {Rows::Rle, "1"},
     {Rows::Lz4, "2"},
     {Rows::Zstd3, "3"},
     {Rows::Zstd9, "4"},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 5> QorLevels{{
+constexpr auto QorLevels = detail::enumRows<Rows::type>({
     {Rows::NoCompression, "0"},
     {Rows::Rle, "1"},
     {Rows::Lz4, "5"},
     {Rows::Zstd3, "6"},
     {Rows::Zstd9, "9"},
-}};
+});
 
 } // namespace
 

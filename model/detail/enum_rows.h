@@ -34,6 +34,19 @@ struct EnumRow
 template <class TEnum, std::size_t N>
 using EnumRows = std::array<EnumRow<TEnum>, N>;
 
+template <class TEnum, std::size_t N, std::size_t... I>
+constexpr EnumRows<TEnum, N> enumRowsOf(const EnumRow<TEnum> (&rows)[N], std::index_sequence<I...> /*all*/) noexcept
+{
+    return {{rows[I]...}};
+}
+
+/// The rows as they are listed. Nobody counts them: a count that is too high would add a row without a text.
+template <class TEnum, std::size_t N>
+constexpr EnumRows<TEnum, N> enumRows(const EnumRow<TEnum> (&rows)[N]) noexcept
+{
+    return enumRowsOf(rows, std::make_index_sequence<N>());
+}
+
 template <class TEnum, std::size_t N, class TMatch, std::size_t... I>
 constexpr const EnumRow<TEnum>* firstRowOf(const EnumRows<TEnum, N>& rows, const TMatch& isMatch,
                                            std::index_sequence<I...> /*all*/) noexcept

@@ -12,7 +12,7 @@ namespace
 
 using Rows = BackupRepositoryType;
 
-constexpr detail::EnumRows<Rows::type, 8> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::LocalDrive, "LocalDrive"},
     {Rows::QorServer, "QorServer"},
     {Rows::Share, "Share"},
@@ -22,16 +22,16 @@ constexpr detail::EnumRows<Rows::type, 8> StoredNames{{
     {Rows::ObjectStorage, "ObjectStorage"},
     // Read but never written, kept on purpose: a repository of unknown kind is not stored.
     {Rows::Unknown, "Unknown", detail::ERowUse::ReadOnly},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 6> DisplayNames{{
+constexpr auto DisplayNames = detail::enumRows<Rows::type>({
     {Rows::LocalDrive, "local"},
     {Rows::QorServer, "backup server"},
     {Rows::Share, "on share"},
     {Rows::Cloud, "cloud"},
     {Rows::ExternalRepository, "external repository"},
     {Rows::ObjectStorage, "object storage"},
-}};
+});
 
 } // namespace
 

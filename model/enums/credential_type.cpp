@@ -14,14 +14,14 @@ using Rows = ECredentialType;
 
 constexpr const char* TypeWords = "credential type";
 
-constexpr detail::EnumRows<Rows::type, 6> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::Unknown, "Unknown"},
     {Rows::AAP, "AAP"},
     {Rows::ObjectStorageAWS, "ObjectStorageAWS"},
     {Rows::ObjectStorageGoogle, "ObjectStorageGoogle"},
     {Rows::ObjectStorageS3Compat, "ObjectStorageS3Compat"},
     {Rows::ObjectStorageAzure, "ObjectStorageAzure"},
-}};
+});
 
 } // namespace
 

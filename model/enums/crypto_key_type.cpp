@@ -13,7 +13,7 @@ namespace
 using Key = ECryptoKeyType;
 using crypto::EKeySetUsageRole;
 
-constexpr detail::EnumRows<Key::type, 12> LogNames{{
+constexpr auto LogNames = detail::enumRows<Key::type>({
     {Key::Password, "Password"},
     {Key::Session, "Session"},
     {Key::Storage, "Storage"},
@@ -26,7 +26,7 @@ constexpr detail::EnumRows<Key::type, 12> LogNames{{
     {Key::PrivatePolicy, "PrivatePolicy"},
     {Key::SymmetricRndAgent, "SymmetricRndAgent"},
     {Key::KmsMasterPublic, "KmsMasterPublic"},
-}};
+});
 
 struct RoleRow
 {

@@ -12,11 +12,11 @@ namespace
 
 using Rows = EDbBackupEncryptionState;
 
-constexpr detail::EnumRows<Rows::type, 3> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::Unencrypted, "Unencrypted"},
     {Rows::Encrypted, "Encrypted"},
     {Rows::Decrypted, "Decrypted"},
-}};
+});
 
 } // namespace
 

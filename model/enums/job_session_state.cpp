@@ -12,25 +12,26 @@ namespace
 
 using Rows = JobSessionState;
 
-constexpr detail::EnumRows<Rows::type, 6> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::SessionPending, "SessionPending"},
     {Rows::SessionInProgress, "SessionInProgress"},
     {Rows::SessionFinished, "SessionFinished"},
     {Rows::SessionFailed, "SessionFailed"},
     {Rows::SessionIsStopping, "SessionIsStopping"},
     {Rows::SessionFinishedWithWarning, "SessionFinishedWithWarning"},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 6> FriendlyNames{{
+constexpr auto FriendlyNames = detail::enumRows<Rows::type>({
     {Rows::SessionPending, "Pending"},
     {Rows::SessionInProgress, "Running"},
     {Rows::SessionFinished, "Success"},
     {Rows::SessionFailed, "Failed"},
     {Rows::SessionIsStopping, "Stopping"},
     {Rows::SessionFinishedWithWarning, "Warning"},
-}};
+});
 
-std::string textOf(const detail::EnumRows<Rows::type, 6>& rows, Rows::type value)
+template <std::size_t N>
+std::string textOf(const detail::EnumRows<Rows::type, N>& rows, Rows::type value)
 try
 {
     if (const auto text = detail::findText(rows, value))

@@ -12,7 +12,7 @@ namespace
 
 using Rows = JobSessionType;
 
-constexpr detail::EnumRows<Rows::type, 9> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::Unknown, "Unknown"},
     {Rows::Backup, "Backup"},
     {Rows::Restore, "Restore"},
@@ -22,9 +22,9 @@ constexpr detail::EnumRows<Rows::type, 9> StoredNames{{
     {Rows::System, "System"},
     {Rows::Transform, "Transform"},
     {Rows::Archive, "Archive"},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 9> LogFolderNames{{
+constexpr auto LogFolderNames = detail::enumRows<Rows::type>({
     {Rows::Unknown, "Unknown"},
     {Rows::Backup, "Backup"},
     {Rows::Restore, "Restore"},
@@ -34,9 +34,9 @@ constexpr detail::EnumRows<Rows::type, 9> LogFolderNames{{
     {Rows::System, "_system"},
     {Rows::Transform, "Transform"},
     {Rows::Archive, "Archive"},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 9> FriendlyNames{{
+constexpr auto FriendlyNames = detail::enumRows<Rows::type>({
     {Rows::Unknown, "Unknown job"},
     {Rows::Backup, "Backup job"},
     {Rows::Restore, "Volumes restore"},
@@ -46,9 +46,10 @@ constexpr detail::EnumRows<Rows::type, 9> FriendlyNames{{
     {Rows::System, "System job"},
     {Rows::Transform, "Backup retention"},
     {Rows::Archive, "Backup archiving"},
-}};
+});
 
-std::string textOf(const detail::EnumRows<Rows::type, 9>& rows, Rows::type value)
+template <std::size_t N>
+std::string textOf(const detail::EnumRows<Rows::type, N>& rows, Rows::type value)
 try
 {
     if (const auto text = detail::findText(rows, value))

@@ -12,7 +12,7 @@ namespace
 
 using Rows = KbBlockSize;
 
-constexpr detail::EnumRows<Rows::type, 7> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::KbBlockSize256, "KbBlockSize256"},
     {Rows::KbBlockSize512, "KbBlockSize512"},
     {Rows::KbBlockSize1024, "KbBlockSize1024"},
@@ -20,16 +20,16 @@ constexpr detail::EnumRows<Rows::type, 7> StoredNames{{
     {Rows::KbBlockSize4096, "KbBlockSize4096"},
     {Rows::KbBlockSize8192, "KbBlockSize8192"},
     {Rows::KbBlockSize1024, "Default", detail::ERowUse::ReadOnly},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 6> KilobyteTexts{{
+constexpr auto KilobyteTexts = detail::enumRows<Rows::type>({
     {Rows::KbBlockSize256, "256"},
     {Rows::KbBlockSize512, "512"},
     {Rows::KbBlockSize1024, "1024"},
     {Rows::KbBlockSize2048, "2048"},
     {Rows::KbBlockSize4096, "4096"},
     {Rows::KbBlockSize8192, "8192"},
-}};
+});
 
 } // namespace
 

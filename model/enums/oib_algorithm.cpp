@@ -12,7 +12,7 @@ namespace
 
 using Rows = OibAlgorithm;
 
-constexpr detail::EnumRows<Rows::type, 6> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::Full, "Full"},
     // The letters stand in this order in every stored document: kept on purpose.
     {Rows::Syntethic, "Syntethic"},
@@ -20,18 +20,19 @@ constexpr detail::EnumRows<Rows::type, 6> StoredNames{{
     {Rows::Different, "Different"},
     {Rows::Transform, "Transform"},
     {Rows::TransformForeverIncremental, "TransformForeverIncremental"},
-}};
+});
 
-constexpr detail::EnumRows<Rows::type, 6> DisplayNames{{
+constexpr auto DisplayNames = detail::enumRows<Rows::type>({
     {Rows::Full, "Full"},
     {Rows::Syntethic, "Full"},
     {Rows::Increment, "Increment"},
     {Rows::Different, "Increment"},
     {Rows::Transform, "Transform"},
     {Rows::TransformForeverIncremental, "TransformForeverIncremental"},
-}};
+});
 
-std::string textOf(const detail::EnumRows<Rows::type, 6>& rows, Rows::type value)
+template <std::size_t N>
+std::string textOf(const detail::EnumRows<Rows::type, N>& rows, Rows::type value)
 {
     if (const auto text = detail::findText(rows, value))
         return std::string(*text);

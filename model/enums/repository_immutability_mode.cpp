@@ -10,10 +10,10 @@ namespace zelplatform::model
 namespace
 {
 
-constexpr detail::EnumRows<ERepositoryImmutabilityMode::type, 2> Names{{
+constexpr auto Names = detail::enumRows<ERepositoryImmutabilityMode::type>({
     {ERepositoryImmutabilityMode::ByRepositorySettings, "ByRepositorySettings"},
     {ERepositoryImmutabilityMode::ByRetentionSettings, "ByRetentionSettings"},
-}};
+});
 
 } // namespace
 

@@ -12,13 +12,13 @@ namespace
 
 using Rows = ESennightOfMonth;
 
-constexpr detail::EnumRows<Rows::type, 5> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::First, "First"},
     {Rows::Second, "Second"},
     {Rows::Third, "Third"},
     {Rows::Fourth, "Fourth"},
     {Rows::Last, "Last"},
-}};
+});
 
 } // namespace
 

@@ -14,11 +14,11 @@ using Rows = ESnapshotMode;
 
 constexpr const char* TypeName = "ESnapshotMode";
 
-constexpr detail::EnumRows<Rows::type, 3> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Rows::type>({
     {Rows::SnapshotRequired, "SnapshotRequired"},
     {Rows::NoSnapshot, "NoSnapshot"},
     {Rows::Hybrid, "Hybrid"},
-}};
+});
 
 } // namespace
 

@@ -14,7 +14,7 @@ using Object = EJobFilterObject;
 
 constexpr const char* UnknownType = "Unknown filter type: [%1].";
 
-constexpr detail::EnumRows<Object::type, 10> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<Object::type>({
     {Object::Unknown, "Unknown"},
     {Object::SimpleDisk, "SimpleDisk"},
     {Object::SimpleDisk, "LVMObject", detail::ERowUse::ReadOnly},
@@ -25,9 +25,9 @@ constexpr detail::EnumRows<Object::type, 10> StoredNames{{
     {Object::Device, "SimpleDisk", detail::ERowUse::WriteOnly},
     {Object::UserProfile, "UserProfile"},
     {Object::UsbDrive, "UsbDrive"},
-}};
+});
 
-constexpr detail::EnumRows<Object::type, 9> FriendlyNames{{
+constexpr auto FriendlyNames = detail::enumRows<Object::type>({
     {Object::Unknown, "Unknown object"},
     {Object::SimpleDisk, "Disk"},
     {Object::AllSystem, "All System"},
@@ -37,7 +37,7 @@ constexpr detail::EnumRows<Object::type, 9> FriendlyNames{{
     {Object::Device, "Disk"},
     {Object::UserProfile, "User profile"},
     {Object::UsbDrive, "USB drive"},
-}};
+});
 
 } // namespace
 

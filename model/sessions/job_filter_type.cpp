@@ -10,11 +10,11 @@ namespace zelplatform::model
 namespace
 {
 
-constexpr detail::EnumRows<EJobFilterType::type, 3> Names{{
+constexpr auto Names = detail::enumRows<EJobFilterType::type>({
     {EJobFilterType::Include, "Include"},
     {EJobFilterType::Exclude, "Exclude"},
     {EJobFilterType::Unknown, "Unknown"},
-}};
+});
 
 } // namespace
 

@@ -9,12 +9,12 @@ namespace zelplatform::model
 namespace
 {
 
-constexpr detail::EnumRows<ISessionLogWriter::ESeverity, 4> Words{{
+constexpr auto Words = detail::enumRows<ISessionLogWriter::ESeverity>({
     {ISessionLogWriter::Processing, "processing"},
     {ISessionLogWriter::Info, "info"},
     {ISessionLogWriter::Warn, "warn"},
     {ISessionLogWriter::Error, "error"},
-}};
+});
 
 } // namespace
 

@@ -14,7 +14,7 @@ using Rows = EDataSizeUnit;
 
 constexpr const char* TypeName = "EDataSizeUnit";
 
-constexpr model::detail::EnumRows<Rows::type, 7> LongNames{{
+constexpr auto LongNames = model::detail::enumRows<Rows::type>({
     {Rows::B, "B"},
     {Rows::KB, "KB"},
     {Rows::MB, "MB"},
@@ -22,9 +22,9 @@ constexpr model::detail::EnumRows<Rows::type, 7> LongNames{{
     {Rows::TB, "TB"},
     {Rows::PB, "PB"},
     {Rows::EB, "EB"},
-}};
+});
 
-constexpr model::detail::EnumRows<Rows::type, 7> ShortNames{{
+constexpr auto ShortNames = model::detail::enumRows<Rows::type>({
     {Rows::B, "B"},
     {Rows::KB, "K"},
     {Rows::MB, "M"},
@@ -32,9 +32,10 @@ constexpr model::detail::EnumRows<Rows::type, 7> ShortNames{{
     {Rows::TB, "T"},
     {Rows::PB, "P"},
     {Rows::EB, "E"},
-}};
+});
 
-std::string textOf(const model::detail::EnumRows<Rows::type, 7>& rows, Rows::type value)
+template <std::size_t N>
+std::string textOf(const model::detail::EnumRows<Rows::type, N>& rows, Rows::type value)
 {
     if (const auto text = model::detail::findText(rows, value))
         return std::string(*text);

@@ -12,11 +12,11 @@ namespace
 
 constexpr const char* UnknownType = "Unknown application processing type";
 
-constexpr detail::EnumRows<EApplicationProcessingType::type, 3> Names{{
+constexpr auto Names = detail::enumRows<EApplicationProcessingType::type>({
     {EApplicationProcessingType::Disabled, "disabled"},
     {EApplicationProcessingType::Try, "try"},
     {EApplicationProcessingType::Required, "required"},
-}};
+});
 
 } // namespace
 

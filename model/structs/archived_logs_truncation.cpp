@@ -17,11 +17,11 @@ namespace names = detail::application_names;
 
 constexpr unsigned long Greatest = 999;
 
-constexpr detail::EnumRows<EArchivedLogsTruncationMode::type, 3> Names{{
+constexpr auto Names = detail::enumRows<EArchivedLogsTruncationMode::type>({
     {EArchivedLogsTruncationMode::Disabled, "Disabled"},
     {EArchivedLogsTruncationMode::ByAge, "ByAge"},
     {EArchivedLogsTruncationMode::BySize, "BySize"},
-}};
+});
 
 } // namespace
 

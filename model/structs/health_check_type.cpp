@@ -10,10 +10,10 @@ namespace zelplatform::model::structs
 namespace
 {
 
-constexpr detail::EnumRows<EHealthCheckType::type, 2> Names{{
+constexpr auto Names = detail::enumRows<EHealthCheckType::type>({
     {EHealthCheckType::Disabled, "Disabled"},
     {EHealthCheckType::Light, "Light"},
-}};
+});
 
 } // namespace
 

@@ -15,19 +15,19 @@ namespace
 
 namespace names = detail::job_names;
 
-constexpr detail::EnumRows<EIndexingType::type, 4> Names{{
+constexpr auto Names = detail::enumRows<EIndexingType::type>({
     {EIndexingType::IsOff, "IsOff"},
     {EIndexingType::IndexAll, "IndexAll"},
     {EIndexingType::IndexOnly, "IndexOnly"},
     {EIndexingType::IndexExcept, "IndexExcept"},
-}};
+});
 
-constexpr detail::EnumRows<EIndexingType::type, 4> LogTexts{{
+constexpr auto LogTexts = detail::enumRows<EIndexingType::type>({
     {EIndexingType::IsOff, "File system indexing is disabled"},
     {EIndexingType::IndexAll, "Index all files and directories selected for backup"},
     {EIndexingType::IndexOnly, "Index only selected files and directories the following folders:"},
     {EIndexingType::IndexExcept, "Index all files and directories but selected the following folders:"},
-}};
+});
 
 bool hasFolders(EIndexingType::type type) noexcept
 {

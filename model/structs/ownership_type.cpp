@@ -12,19 +12,20 @@ namespace
 
 constexpr const char* TypeName = "EOwnershipType::type";
 
-constexpr detail::EnumRows<EOwnershipType::type, 3> StoredNames{{
+constexpr auto StoredNames = detail::enumRows<EOwnershipType::type>({
     {EOwnershipType::NoOwner, "NoOwner"},
     {EOwnershipType::QOR, "QOR"},
     {EOwnershipType::PEL, "PEL"},
-}};
+});
 
-constexpr detail::EnumRows<EOwnershipType::type, 3> FriendlyNames{{
+constexpr auto FriendlyNames = detail::enumRows<EOwnershipType::type>({
     {EOwnershipType::NoOwner, "Not set"},
     {EOwnershipType::QOR, "Backup server"},
     {EOwnershipType::PEL, "Service provider console"},
-}};
+});
 
-std::string textOf(const detail::EnumRows<EOwnershipType::type, 3>& rows, EOwnershipType::type value)
+template <std::size_t N>
+std::string textOf(const detail::EnumRows<EOwnershipType::type, N>& rows, EOwnershipType::type value)
 {
     if (const auto text = detail::findText(rows, value))
         return std::string(*text);

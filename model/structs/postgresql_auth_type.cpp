@@ -10,11 +10,11 @@ namespace zelplatform::model::structs
 namespace
 {
 
-constexpr detail::EnumRows<EPostgreSqlAuthType::type, 3> Names{{
+constexpr auto Names = detail::enumRows<EPostgreSqlAuthType::type>({
     {EPostgreSqlAuthType::Password, "password"},
     {EPostgreSqlAuthType::File, "file"},
     {EPostgreSqlAuthType::Peer, "peer"},
-}};
+});
 
 } // namespace
 

@@ -20,12 +20,12 @@ enum class EColour : int
 };
 
 // "Crimson" is an alias that is only read, "Leaf" a name that is only written.
-constexpr EnumRows<EColour, 4> Colours{{
+constexpr auto Colours = enumRows<EColour>({
     {EColour::Red, "Crimson", ERowUse::ReadOnly},
     {EColour::Red, "Red"},
     {EColour::Green, "Leaf", ERowUse::WriteOnly},
     {EColour::Blue, "Blue"},
-}};
+});
 
 std::optional<std::string> written(EColour value)
 {

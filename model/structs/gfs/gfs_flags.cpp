@@ -10,19 +10,19 @@ namespace zelplatform::model::structs::gfs
 namespace
 {
 
-constexpr detail::EnumRows<EGfsFlags::type, 4> LongNames{{
+constexpr auto LongNames = detail::enumRows<EGfsFlags::type>({
     {EGfsFlags::None, "None"},
     {EGfsFlags::Weekly, "Weekly"},
     {EGfsFlags::Monthly, "Monthly"},
     {EGfsFlags::Yearly, "Yearly"},
-}};
+});
 
-constexpr detail::EnumRows<EGfsFlags::type, 4> ShortNames{{
+constexpr auto ShortNames = detail::enumRows<EGfsFlags::type>({
     {EGfsFlags::None, "N"},
     {EGfsFlags::Weekly, "W"},
     {EGfsFlags::Monthly, "M"},
     {EGfsFlags::Yearly, "Y"},
-}};
+});
 
 } // namespace
 

@@ -10,13 +10,13 @@ namespace zelplatform::model::structs::gfs
 namespace
 {
 
-constexpr detail::EnumRows<EGfsTrackingCandidate::type, 5> Names{{
+constexpr auto Names = detail::enumRows<EGfsTrackingCandidate::type>({
     {EGfsTrackingCandidate::Outdated, "Outdated"},
     {EGfsTrackingCandidate::Outlying, "Outlying"},
     {EGfsTrackingCandidate::Legacy, "Legacy"},
     {EGfsTrackingCandidate::Retained, "Retained"},
     {EGfsTrackingCandidate::Candidate, "Candidate"},
-}};
+});
 
 } // namespace
 

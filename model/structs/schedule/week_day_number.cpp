@@ -10,14 +10,14 @@ namespace zelplatform::model::structs
 namespace
 {
 
-constexpr detail::EnumRows<EWeekDayNumber::type, 6> Names{{
+constexpr auto Names = detail::enumRows<EWeekDayNumber::type>({
     {EWeekDayNumber::First, "First"},
     {EWeekDayNumber::Second, "Second"},
     {EWeekDayNumber::Third, "Third"},
     {EWeekDayNumber::Fourth, "Fourth"},
     {EWeekDayNumber::Last, "Last"},
     {EWeekDayNumber::Every, "Every"},
-}};
+});
 
 } // namespace
 

@@ -13,14 +13,14 @@ namespace
 constexpr const char* TypeName = "object storage type";
 constexpr const char* CredentialTypeName = "credential type";
 
-constexpr detail::EnumRows<EObjectStorageType::type, 5> Names{{
+constexpr auto Names = detail::enumRows<EObjectStorageType::type>({
     {EObjectStorageType::AzureBlobStorage, "AzureBlobStorage"},
     {EObjectStorageType::AmazonS3, "AmazonS3"},
     {EObjectStorageType::AmazonS3Compatible, "AmazonS3Compatible"},
     {EObjectStorageType::Google, "Google"},
     // Written and never read, kept on purpose.
     {EObjectStorageType::Unknown, "Unknown", detail::ERowUse::WriteOnly},
-}};
+});
 
 struct CredentialRow
 {
