@@ -6,7 +6,7 @@ _zelmodel_place()
     commands=() options=() valued=() arguments=()
     case $path in
     '')
-        commands=(calendar check completion convert diff dump explain log man new next set show why)
+        commands=(calendar check completion convert diff dump explain log man new next schema set show why)
         options=(-h --help --version)
         ;;
     calendar)
@@ -85,6 +85,10 @@ _zelmodel_place()
         valued=(--window --from --until -n --count)
         arguments=(FILE)
         ;;
+    schema)
+        options=(-h --help --json --no-color --reveal --relaxng)
+        arguments=(KIND)
+        ;;
     set)
         options=(-h --help --json --no-color --reveal --fields -o --output --in-place)
         valued=(-o --output)
@@ -158,6 +162,13 @@ _zelmodel_value()
     'new gfs:--output') files=yes ;;
     'next:--window') files=yes ;;
     'next:FILE') files=yes ;;
+    'schema:KIND')
+        words=(backup-job-state backup-window cloud-container create-gfs-synthetic-full-spec create-synthetic-full-spec
+               direct-backup-immutability-settings gfs-policy immutability-settings job-options job-session-details
+               job-session-progress-details lone-schedule mount-session-details oracle-config postgres-config
+               repository-limitations s3-params schedule-options server-job-options sql-variant task-log-record
+               transform-spec)
+        ;;
     'set:-o') files=yes ;;
     'set:--output') files=yes ;;
     'set:FILE') files=yes ;;

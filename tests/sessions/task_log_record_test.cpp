@@ -216,6 +216,18 @@ TEST(TaskLogRecordTest, EveryArgumentIsNeededWithItsType)
               failureText([] { STaskLogRecord::FromMivo(std::make_shared<CMivoCommandArgs>()); }));
 }
 
+TEST(TaskLogRecordTest, TheFirstMissingArgumentIsTold)
+{
+    const auto bag = std::make_shared<CMivoCommandArgs>();
+    for (const auto& argument : fullArguments())
+    {
+        EXPECT_EQ(readFailed + ("Argument [" + argument.key + "] is not found."),
+                  failureText([&] { STaskLogRecord::FromMivo(bag); }));
+        argument.set(*bag);
+    }
+    EXPECT_TRUE(STaskLogRecord::FromMivo(bag) == fullRecord());
+}
+
 TEST(TaskLogRecordTest, NoArgumentsAtAll)
 {
     const std::string failure = failureText([] { STaskLogRecord::FromMivo(nullptr); });

@@ -16,6 +16,7 @@ void addLog(Dispatcher& commands);
 void addMan(Dispatcher& commands);
 void addNew(Dispatcher& commands);
 void addNext(Dispatcher& commands);
+void addSchema(Dispatcher& commands);
 void addSet(Dispatcher& commands);
 void addShow(Dispatcher& commands);
 void addWhy(Dispatcher& commands);

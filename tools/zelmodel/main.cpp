@@ -30,6 +30,7 @@ void addCommands(Dispatcher& commands)
     addMan(commands);
     addNew(commands);
     addNext(commands);
+    addSchema(commands);
     addSet(commands);
     addShow(commands);
     addWhy(commands);
