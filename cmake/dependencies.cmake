@@ -28,6 +28,10 @@ endif()
 
 # The packed library is not instrumented: a fuzzer sees nothing of what the parser does.
 if(ZELMODEL_TINYXML2_SOURCE)
+    if(NOT EXISTS ${ZELMODEL_TINYXML2_SOURCE}/tinyxml2.cpp)
+        message(FATAL_ERROR "There is no source of tinyxml2 in ${ZELMODEL_TINYXML2_SOURCE}. "
+            "This fetches it: scripts/source_package tinyxml2 ${ZELMODEL_TINYXML2_SOURCE}")
+    endif()
     add_library(zel_tinyxml2 STATIC ${ZELMODEL_TINYXML2_SOURCE}/tinyxml2.cpp)
     add_library(tinyxml2::tinyxml2 ALIAS zel_tinyxml2)
     set_target_properties(zel_tinyxml2 PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET default)

@@ -5,7 +5,8 @@
 include(GenerateExportHeader)
 
 function(zel_limit_exports target script)
-    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+    # The binary interface is read from the full debug information.
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition $<$<CONFIG:RelWithDebInfo>:-g>)
     target_link_options(${target} PRIVATE -Wl,--version-script=${script} -Wl,-Bsymbolic-functions -Wl,-O1)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
 endfunction()

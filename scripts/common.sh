@@ -9,6 +9,7 @@ build_packages=(g++ cmake ninja-build "${library_packages[@]}" libmagicenum-dev 
 clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
 fuzz_packages=(clang libclang-rt-dev dpkg-dev)
 shell_packages=(bash zsh fish groff-base mandoc python3)
+abi_packages=(abigail-tools)
 package_packages=(debhelper dpkg-dev lintian)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.
