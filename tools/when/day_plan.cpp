@@ -4,6 +4,8 @@
 #include <utility>
 
 #include <zelplatform/datetime/date_time.h>
+#include <zelplatform/datetime/names.h>
+#include <zelplatform/util/util.h>
 
 #include "describe/words.h"
 #include "local_zone.h"
@@ -81,6 +83,36 @@ std::vector<PlannedMonth> planMonths(const Evaluation& evaluation, const CDate& 
             month = later(month, last * 86400L);
     }
     return months;
+}
+
+std::vector<Week> weeksOf(const PlannedMonth& month)
+{
+    // Sunday is 0 and the last of the week here.
+    const auto before = (static_cast<std::size_t>(CDateTime(month.first).getDayOfWeek()) + DaysOfWeek - 1) % DaysOfWeek;
+    std::vector<Week> weeks((before + month.days.size() + DaysOfWeek - 1) / DaysOfWeek, Week{});
+    for (std::size_t i = 0; i < month.days.size(); ++i)
+        weeks.at((before + i) / DaysOfWeek).at((before + i) % DaysOfWeek) = &month.days[i];
+    return weeks;
+}
+
+std::string tellMonth(const PlannedMonth& month)
+{
+    const CDateTime first = month.first;
+    return datetime::EMonth::ToStr(first.getMonth()) + ' ' + util::toStr(first.year());
+}
+
+std::vector<const PlannedDay*> daysWithClock(const std::vector<PlannedMonth>& months)
+{
+    std::vector<const PlannedDay*> days;
+    for (const auto& month : months)
+    {
+        for (const auto& day : month.days)
+        {
+            if (!day.clock.empty())
+                days.push_back(&day);
+        }
+    }
+    return days;
 }
 
 describe::Node describeMonths(const std::vector<PlannedMonth>& months)

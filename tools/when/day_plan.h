@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -33,6 +35,20 @@ struct PlannedMonth
 /// Months in order, from the month of the date on.
 std::vector<PlannedMonth> planMonths(const Evaluation& evaluation, const zelplatform::model::CDate& first,
                                      std::size_t count);
+
+constexpr std::size_t DaysOfWeek = 7;
+
+/// The days of a week from Monday on; the null pointer for those of other months.
+using Week = std::array<const PlannedDay*, DaysOfWeek>;
+
+/// The month's weeks, which point into it.
+std::vector<Week> weeksOf(const PlannedMonth& month);
+
+/// "January 2026".
+std::string tellMonth(const PlannedMonth& month);
+
+/// The days on which the clock is changed and the job starts.
+std::vector<const PlannedDay*> daysWithClock(const std::vector<PlannedMonth>& months);
 
 /// The days on which something is scheduled, as a list "months" of lists of days.
 describe::Node describeMonths(const std::vector<PlannedMonth>& months);

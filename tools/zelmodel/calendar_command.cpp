@@ -10,6 +10,7 @@
 #include "when/day_plan.h"
 #include "when/month_grid.h"
 #include "when/next_days.h"
+#include "when/week_plan.h"
 #include "when/window_picture.h"
 
 namespace
@@ -41,7 +42,7 @@ int showWindow(const describe::Document& document, const std::string& file, cons
     if (session.output.isJson())
         session.output.printJson("calendar", file, {{tree.name, describe::toJson(tree, style)}});
     else
-        session.output.print(when::renderWindow(*window, {}, style));
+        session.output.print(when::renderWindow(when::planWeek(*window, {}), style));
     return exit_code::Fine;
 }
 
@@ -71,7 +72,7 @@ int showSchedule(const ScheduleInput& input, const Arguments& arguments, const S
     }
     session.output.print(renderTitle(title, style) + when::renderMonths(months, style));
     if (input.window)
-        session.output.print('\n' + when::renderWindow(*input.window, months, style));
+        session.output.print('\n' + when::renderWindow(when::planWeek(*input.window, months), style));
     return exit_code::Fine;
 }
 
