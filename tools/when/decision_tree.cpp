@@ -6,6 +6,7 @@
 
 #include <zelplatform/util/util.h>
 
+#include "describe/find_field.h"
 #include "describe/visitors.h"
 #include "describe/words.h"
 #include "local_zone.h"
@@ -17,25 +18,13 @@ namespace
 
 using datetime::CDateTime;
 using describe::EOrigin;
+using describe::findField;
 using describe::makeField;
 using describe::Node;
 using zelplatform::model::CDate;
 using zelplatform::model::structs::CFullBackupOptions;
 
 constexpr const char* Pointer = " <-- the first no";
-
-/// The field of the name, in the node or below it; the null pointer when there is none.
-const Node* findField(const Node& node, const std::string& name)
-{
-    if (node.name == name)
-        return &node;
-    for (const auto& child : node.children)
-    {
-        if (const auto* found = findField(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 /// Conditions of one part of the document, told with what its fields say.
 class Teller
