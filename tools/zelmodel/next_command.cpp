@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -6,7 +5,6 @@
 #include "commands.h"
 #include "date_option.h"
 #include "describe/json_renderer.h"
-#include "describe/terminal_text.h"
 #include "describe/words.h"
 #include "exit_code.h"
 #include "schedule_input.h"
@@ -80,8 +78,7 @@ int next(const Arguments& arguments, Session& session)
     const auto& style = session.output.style();
     if (arguments.isIcal)
     {
-        const auto name = std::filesystem::path(shownName(file)).filename().string();
-        session.output.print(when::renderIcal(evaluation, days, describe::printable(name)));
+        session.output.print(when::renderIcal(evaluation, days, nameOf(file)));
         return exit_code::Fine;
     }
     const auto tree = when::describeDays(evaluation, from, days);

@@ -1,5 +1,6 @@
 #include "schedule_input.h"
 
+#include <filesystem>
 #include <iostream>
 
 #include <zelplatform/datetime/date_time.h>
@@ -35,6 +36,11 @@ ScheduleInput readSchedule(const describe::Document& document, const ScheduleArg
     }
     reading = Reading{arguments.file, std::nullopt};
     return input;
+}
+
+std::string nameOf(const std::string& file)
+{
+    return describe::printable(std::filesystem::path(shownName(file)).filename().string());
 }
 
 int tellNothing(const Session& session, const ScheduleArguments& arguments, const char* kind, const std::string& reason)

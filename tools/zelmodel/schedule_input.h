@@ -43,6 +43,9 @@ ScheduleInput readSchedule(const ScheduleArguments& arguments, Reading& reading)
 /// The same when the first document is open already: it is the one of the reading.
 ScheduleInput readSchedule(const describe::Document& document, const ScheduleArguments& arguments, Reading& reading);
 
+/// The name of a document for people: that of its file without the folder, escaped.
+std::string nameOf(const std::string& file);
+
 /// Says that the job does not start, and why; gives the exit code.
 int tellNothing(const Session& session, const ScheduleArguments& arguments, const char* kind,
                 const std::string& reason);
