@@ -44,8 +44,8 @@ function(zel_add_test_folder folder)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE test_support GTest::gtest_main)
     target_precompile_headers(${name} REUSE_FROM test_support)
-    set(parts zelmodel_describe zelmodel_logs zelmodel_when zelmodel_dump zelmodel_edit zelmodel_check
-        zelmodel_schemas zelmodel_usage)
+    set(parts zelmodel_describe zelmodel_logs zelmodel_when zelmodel_picture zelmodel_dump zelmodel_edit
+        zelmodel_check zelmodel_schemas zelmodel_usage)
     set(parts_of_threads_tests "")
     set(parts_of_keys_tests zelmodel_dump)
     set(parts_of_proofs_tests test_readers)

@@ -10,8 +10,8 @@ _zelmodel_place()
         options=(-h --help --version)
         ;;
     calendar)
-        options=(-h --help --json --no-color --reveal --window --month --year)
-        valued=(--window --month --year)
+        options=(-h --help --json --no-color --reveal --window --month --year --svg --html)
+        valued=(--window --month --year --svg --html)
         arguments=(FILE)
         ;;
     check)
@@ -111,6 +111,8 @@ _zelmodel_value()
 {
     case $path:$1 in
     'calendar:--window') files=yes ;;
+    'calendar:--svg') files=yes ;;
+    'calendar:--html') files=yes ;;
     'calendar:FILE') files=yes ;;
     'check:--window') files=yes ;;
     'check:FILE...') files=yes ;;
