@@ -10,6 +10,7 @@ clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
 fuzz_packages=(clang libclang-rt-dev dpkg-dev)
 shell_packages=(bash zsh fish groff-base mandoc python3)
 abi_packages=(abigail-tools)
+picture_packages=(chromium fonts-liberation poppler-utils python3-pil)
 package_packages=(debhelper dpkg-dev lintian)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.
