@@ -101,15 +101,16 @@ TEST(LogJsonLines, AreOneObjectForEachRecord)
             .output);
     ASSERT_EQ(objects.size(), 5U);
     EXPECT_EQ(objects[0]["kind"], "skipped");
-    EXPECT_EQ(objects[1], json::parse(R"({"kind": "skipped", "file": "logs/nightly.log", "line": 8,
+    EXPECT_EQ(objects[1], json::parse(R"({"kind": "skipped", "schema": 1, "file": "logs/nightly.log", "line": 8,
                                           "reason": "Invalid severity value string [Warn]."})"));
-    EXPECT_EQ(objects[2], json::parse(R"({"kind": "record", "file": "logs/nightly.log", "line": 10,
+    EXPECT_EQ(objects[2], json::parse(R"({"kind": "record", "schema": 1, "file": "logs/nightly.log", "line": 10,
                                           "time": "2024-03-07 23:04:02 UTC",
                                           "session": "b1d04c7e-6a25-4f93-8e1b-7c3f52a9e604", "severity": "error",
                                           "message": "No space left on the repository"})"));
-    EXPECT_EQ(objects[3], json::parse(R"({"kind": "end", "file": "logs/nightly.log", "lines": 11, "records": 8,
+    EXPECT_EQ(objects[3],
+              json::parse(R"({"kind": "end", "schema": 1, "file": "logs/nightly.log", "lines": 11, "records": 8,
                                           "told": 1, "empty": 1, "skipped": 2})"));
-    EXPECT_EQ(objects[4], json::parse(R"({"kind": "error", "file": "missing.log",
+    EXPECT_EQ(objects[4], json::parse(R"({"kind": "error", "schema": 1, "file": "missing.log",
                                           "failed": "cannot be read: No such file or directory"})"));
 }
 
@@ -131,8 +132,8 @@ TEST(LogJsonLines, TellWhatBecomesOfAFollowedFile)
         if (object["kind"] == "truncated" || object["kind"] == "replaced")
             changes.push_back(object);
     }
-    EXPECT_EQ(changes,
-              (std::vector<json>{{{"kind", "truncated"}, {"file", name}}, {{"kind", "replaced"}, {"file", name}}}));
+    EXPECT_EQ(changes, (std::vector<json>{{{"kind", "truncated"}, {"schema", 1}, {"file", name}},
+                                          {{"kind", "replaced"}, {"schema", 1}, {"file", name}}}));
 }
 
 TEST(LogJson, ARefusedFileStandsAmongTheErrors)
@@ -156,6 +157,7 @@ TEST(LogJson, ARefusedFileStandsAmongTheErrors)
     ASSERT_EQ(lines.size(), 3U);
     json line = error;
     line["kind"] = "error";
+    line["schema"] = 1;
     EXPECT_EQ(lines.back(), line);
 }
 

@@ -79,7 +79,7 @@ public:
 private:
     void add(const char* kind, const ordered_json& members)
     {
-        ordered_json object{{"kind", kind}};
+        ordered_json object{{"kind", kind}, {"schema", JsonSchema}};
         object.update(members);
         collection() += object.dump(-1, ' ', false, ordered_json::error_handler_t::replace);
         collection() += '\n';

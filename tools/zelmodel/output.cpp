@@ -17,7 +17,6 @@ using describe::printable;
 using describe::shortened;
 using nlohmann::ordered_json;
 
-constexpr int JsonSchema = 1;
 constexpr std::size_t LongestSentence = 400;
 
 bool isPlainWanted(const OutputOptions& options)

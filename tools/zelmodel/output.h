@@ -15,6 +15,9 @@ struct OutputOptions
     bool showsSecrets = false;
 };
 
+/// The version of the layout of every JSON answer, its member "schema".
+inline constexpr int JsonSchema = 1;
+
 /// Where and how a command prints: text for people, coloured and as wide as the terminal on one, or JSON.
 class Output
 {
@@ -40,7 +43,7 @@ public:
     /// describe::printable).
     void print(const std::string& text) const;
 
-    /// Prints one JSON document on standard output: the kind, the version of its layout (1) and the file, followed by
+    /// Prints one JSON document on standard output: the kind, the version of its layout and the file, followed by
     /// the members of the body. Bytes that are no UTF-8 are replaced.
     void printJson(const std::string& kind, const std::string& file, const nlohmann::ordered_json& body) const;
 
