@@ -193,4 +193,16 @@ TEST(Completions, AProgramWithoutCommandsHasThemToo)
     EXPECT_NE(fish.find("complete -c lone -n '__lone_at \"\" 1' -F\n"), std::string::npos) << fish;
 }
 
+// zsh knows arguments by their numbers.
+TEST(ZshCompletion, AnOptionExcludesAnArgument)
+{
+    usage::Option answer{{"--answer"}, "NAME", "An answer"};
+    answer.excludes = {"KIND", "--other"};
+    const usage::Option first{{"FILE"}, "FILE", "What is read"};
+    const usage::Option second{{"KIND"}, "KIND", "A kind"};
+    const usage::Command lone{"lone", "Alone", {answer}, {first, second}};
+    EXPECT_NE(usage::renderZshCompletion(lone).find("'(--answer 2 --other)--answer=[An answer]"), std::string::npos)
+        << usage::renderZshCompletion(lone);
+}
+
 } // namespace

@@ -74,13 +74,25 @@ std::string specOf(const Option& option, const std::string& name, const std::vec
     return spec;
 }
 
+// Arguments have numbers where options have names.
+std::string excludedAs(const std::string& name, const std::vector<Option>& arguments)
+{
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+    {
+        if (arguments[i].names.front() == name)
+            return std::to_string(i + 1);
+    }
+    return name;
+}
+
 std::vector<std::string> specsOf(const Place& place)
 {
     std::vector<std::string> specs;
     for (const auto& option : place.options)
     {
         auto others = option.isRepeated ? std::vector<std::string>() : option.names;
-        others.insert(others.end(), option.excludes.begin(), option.excludes.end());
+        for (const auto& other : option.excludes)
+            others.push_back(excludedAs(other, place.command->arguments));
         for (const auto& name : option.names)
             specs.push_back(specOf(option, name, others));
     }
