@@ -86,7 +86,8 @@ _zelmodel_place()
         arguments=(FILE)
         ;;
     schema)
-        options=(-h --help --json --no-color --reveal --relaxng)
+        options=(-h --help --json --no-color --reveal --answer --relaxng)
+        valued=(--answer)
         arguments=(KIND)
         ;;
     set)
@@ -164,6 +165,9 @@ _zelmodel_value()
     'new gfs:--output') files=yes ;;
     'next:--window') files=yes ;;
     'next:FILE') files=yes ;;
+    'schema:--answer')
+        words=(calendar check completion convert diff dump error explain log log-lines man new next schema set show why)
+        ;;
     'schema:KIND')
         words=(backup-job-state backup-window cloud-container create-gfs-synthetic-full-spec create-synthetic-full-spec
                direct-backup-immutability-settings gfs-policy immutability-settings job-options job-session-details

@@ -1,8 +1,6 @@
 #include "schemas/schema.h"
 
-#include <algorithm>
 #include <set>
-#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -27,20 +25,6 @@ constexpr Language RelaxNg{".rng", "<grammar", "</grammar>", "<include href=\""}
 
 constexpr std::string_view Parts = "parts/";
 constexpr std::string_view IncludeEnd = "\"/>\n";
-
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
-
-std::string_view textOf(const std::string& path)
-{
-    const auto& files = schemaFiles();
-    const auto found = std::find_if(files.begin(), files.end(), [&](const auto& file) { return file.path == path; });
-    if (found == files.end())
-        throw std::out_of_range("There is no schema " + path + '.');
-    return found->text;
-}
 
 /// What stands in the root of the text, and where it begins. The roots of all files of a language are alike.
 std::pair<std::string_view, std::size_t> bodyOf(std::string_view text, const Language& language)
@@ -75,13 +59,7 @@ std::string resolved(std::string_view body, const Language& language, std::set<s
 
 std::vector<std::string> kinds()
 {
-    std::vector<std::string> names;
-    for (const auto& file : schemaFiles())
-    {
-        if (endsWith(file.path, Xsd.suffix) && file.path.find('/') == std::string_view::npos)
-            names.emplace_back(file.path.substr(0, file.path.size() - Xsd.suffix.size()));
-    }
-    return names;
+    return namesIn("", Xsd.suffix);
 }
 
 std::string schemaOf(const std::string& kind, ESchema which)

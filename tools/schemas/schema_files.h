@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,5 +16,11 @@ struct SchemaFile
 
 /// All of them, sorted by their paths. The table is made by the build.
 const std::vector<SchemaFile>& schemaFiles();
+
+/// The text of the file; throws std::out_of_range when there is none of the path.
+std::string_view textOf(const std::string& path);
+
+/// The names of the files in a folder, "" or "parts/", without the suffix that they have; sorted.
+std::vector<std::string> namesIn(std::string_view folder, std::string_view suffix);
 
 } // namespace schemas
