@@ -21,6 +21,7 @@ target_include_directories(zel_magic_enum SYSTEM INTERFACE ${MAGIC_ENUM_INCLUDE_
 
 if(ZELMODEL_BUILD_TESTS)
     find_package(GTest REQUIRED)
+    find_package(valijson REQUIRED CONFIG)
 endif()
 if(ZELMODEL_BUILD_BENCH)
     find_package(benchmark REQUIRED CONFIG)

@@ -21,6 +21,8 @@ function(zel_add_test_support)
         ZELMODEL_COMMAND="${command}")
     # The tests themselves are not optimised: they are compiled far longer than they run.
     target_compile_options(test_support PUBLIC -O0)
+    # Each answer of the command in JSON is validated: that is work.
+    set_source_files_properties(support/answer_schemas.cpp PROPERTIES COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
     # Neither are they instrumented: it is the library and the tools that are watched, and what they do to the heap.
     if(ZELMODEL_SANITIZE MATCHES address)
         target_compile_options(test_support PUBLIC -fno-sanitize=all)
@@ -30,7 +32,7 @@ function(zel_add_test_support)
         target_compile_definitions(test_support PUBLIC ZELMODEL_TEST_SANITIZED)
     endif()
     target_link_libraries(test_support PUBLIC zelmodel_lib GTest::gtest spdlog::spdlog OpenSSL::Crypto
-        tinyxml2::tinyxml2)
+        tinyxml2::tinyxml2 nlohmann_json::nlohmann_json valijson)
     target_precompile_headers(test_support PRIVATE <gtest/gtest.h>)
     zel_enable_warnings(test_support)
 endfunction()

@@ -4,7 +4,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 export LC_ALL=C.UTF-8
 
 library_packages=(
-    libboost1.81-dev libtinyxml2-dev libssl-dev libspdlog-dev libcli11-dev nlohmann-json3-dev zlib1g-dev libgtest-dev)
+    libboost1.81-dev libtinyxml2-dev libssl-dev libspdlog-dev libcli11-dev nlohmann-json3-dev zlib1g-dev libgtest-dev
+    libvalijson-dev)
 build_packages=(g++ cmake ninja-build "${library_packages[@]}" libmagicenum-dev libxml2-utils openssl tzdata)
 clang_packages=(clang clang-format clang-tidy libclang-rt-dev python3)
 fuzz_packages=(clang libclang-rt-dev dpkg-dev)

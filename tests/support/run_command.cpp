@@ -15,6 +15,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "answer_schemas.h"
+
 namespace zelmodel_test
 {
 namespace
@@ -162,6 +164,8 @@ CommandResult runWithPipes(const std::vector<std::string>& arguments, const std:
     converse(in.writing, input, out.reading, err.reading, result);
     in.writing.close();
     result.exitCode = waitForEnd(child);
+    if (outputFile.empty())
+        expectAnswersOfSchema(arguments, result.output);
     return result;
 }
 
@@ -201,6 +205,7 @@ CommandResult runCommandOnTerminal(const std::vector<std::string>& arguments, un
     while (readPiece(reading.number(), result.output))
         continue;
     result.exitCode = waitForEnd(child);
+    expectAnswersOfSchema(arguments, result.output);
     return result;
 }
 

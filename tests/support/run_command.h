@@ -15,7 +15,8 @@ struct CommandResult
 };
 
 /// Runs the program `zelmodel` without a shell, gives it the text on standard input, and waits for its end. It starts
-/// in the folder of the examples, so that messages name files as an example call does, in the zone UTC.
+/// in the folder of the examples, so that messages name files as an example call does, in the zone UTC. An answer in
+/// JSON must be of its schema, whoever asks for it: the test fails otherwise.
 CommandResult runCommand(const std::vector<std::string>& arguments, const std::string& input = {});
 
 /// The same in another zone.

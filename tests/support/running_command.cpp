@@ -13,6 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "answer_schemas.h"
 #include "slowness.h"
 
 namespace zelmodel_test
@@ -51,7 +52,7 @@ std::string contentWith(const std::string& path, const std::string& text)
 
 } // namespace
 
-RunningCommand::RunningCommand(const std::vector<std::string>& arguments)
+RunningCommand::RunningCommand(const std::vector<std::string>& arguments) : m_arguments(arguments)
 {
     auto given = arguments;
     given.insert(given.begin(), ZELMODEL_COMMAND);
@@ -77,7 +78,7 @@ RunningCommand::~RunningCommand()
     if (m_child < 0)
         return;
     signal(SIGKILL);
-    end();
+    waitForEnd();
 }
 
 std::string RunningCommand::outputWith(const std::string& text) const
@@ -97,6 +98,15 @@ void RunningCommand::signal(int number) const
 
 CommandResult RunningCommand::end()
 {
+    const auto status = waitForEnd();
+    const CommandResult result{WIFEXITED(status) ? WEXITSTATUS(status) : OnSignal + WTERMSIG(status),
+                               contentOf(m_folder / "output"), contentOf(m_folder / "messages")};
+    expectAnswersOfSchema(m_arguments, result.output);
+    return result;
+}
+
+int RunningCommand::waitForEnd()
+{
     const auto deadline = deadlineFromNow();
     int status = 0;
     struct rusage usage = {};
@@ -108,8 +118,7 @@ CommandResult RunningCommand::end()
     }
     m_child = -1;
     m_peakMemory = usage.ru_maxrss;
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : OnSignal + WTERMSIG(status), contentOf(m_folder / "output"),
-            contentOf(m_folder / "messages")};
+    return status;
 }
 
 } // namespace zelmodel_test

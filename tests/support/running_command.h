@@ -29,13 +29,17 @@ public:
 
     void signal(int number) const;
 
-    /// Waits for the end.
+    /// Waits for the end. An answer in JSON must be of its schema, as with runCommand.
     CommandResult end();
 
     /// The most memory that it had, in KiB; known after the end.
     long peakMemory() const noexcept { return m_peakMemory; }
 
 private:
+    /// Gives the status of the process.
+    int waitForEnd();
+
+    std::vector<std::string> m_arguments;
     TemporaryFolder m_folder;
     pid_t m_child = -1;
     long m_peakMemory = 0;
