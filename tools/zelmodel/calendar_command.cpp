@@ -10,7 +10,7 @@
 #include "date_option.h"
 #include "describe/json_renderer.h"
 #include "exit_code.h"
-#include "new_file.h"
+#include "files/new_file.h"
 #include "picture/html_page.h"
 #include "picture/svg_picture.h"
 #include "schedule_input.h"
@@ -76,7 +76,7 @@ int writePicture(const Arguments& arguments, const picture::SchedulePicture& pic
         return exit_code::Fine;
     }
     session.reading = Reading{file, std::nullopt};
-    writeNewFile(file, text);
+    files::writeNewFile(file, text);
     return exit_code::Fine;
 }
 

@@ -3,9 +3,8 @@
 #include <string>
 #include <vector>
 
-#include <zelplatform/exc/exc.h>
-
 #include "check/check.h"
+#include "check/check_file.h"
 #include "check/report.h"
 #include "commands.h"
 #include "exit_code.h"
@@ -37,25 +36,6 @@ int exitCodeOf(const CheckedFile& file)
     return file.findings.empty() ? exit_code::Fine : exit_code::Findings;
 }
 
-// An input that is too long for any document is refused before it is read whole.
-CheckedFile checkFile(const std::string& name, const BackupWindow* window)
-{
-    CheckedFile file{shownName(name), {}, ""};
-    try
-    {
-        file.findings = check::checkText(readInput(name), window);
-    }
-    catch (const InputError& error)
-    {
-        file.failure = error.what();
-    }
-    catch (const exc::CRuntimeExc& refusal)
-    {
-        file.findings = check::refuseText(refusal.what());
-    }
-    return file;
-}
-
 // The window is a document like the others: what is wrong with it is told too.
 std::vector<CheckedFile> checkAll(const Arguments& arguments, Session& session)
 {
@@ -69,7 +49,7 @@ std::vector<CheckedFile> checkAll(const Arguments& arguments, Session& session)
         checked.push_back({shownName(arguments.window), check::checkText(text), ""});
     }
     for (const auto& file : arguments.files)
-        checked.push_back(checkFile(file, window.get()));
+        checked.push_back(check::checkFile(file, window.get()));
     return checked;
 }
 

@@ -12,8 +12,8 @@
 #include "describe/terminal_text.h"
 #include "document_output.h"
 #include "exit_code.h"
-#include "new_file.h"
-#include "replace_file.h"
+#include "files/new_file.h"
+#include "files/replace_file.h"
 
 namespace
 {
@@ -45,7 +45,7 @@ Written writeInPlace(const Arguments& arguments, const std::string& text, const 
                                "of its own.");
     if (text == conversion.text)
         return {{"output", arguments.file}, {"unchanged", true}};
-    return {{"output", arguments.file}, {"backup", replaceFile(arguments.file, conversion.text)}};
+    return {{"output", arguments.file}, {"backup", files::replaceFile(arguments.file, conversion.text)}};
 }
 
 Written writeAsTold(const Arguments& arguments, const std::string& text, const Conversion& conversion, bool isShown)
@@ -54,7 +54,7 @@ Written writeAsTold(const Arguments& arguments, const std::string& text, const C
         return writeInPlace(arguments, text, conversion);
     if (!arguments.output)
         return isShown ? Written{{"document", conversion.text}} : Written{{"documentHidden", true}};
-    writeNewFile(*arguments.output, conversion.text);
+    files::writeNewFile(*arguments.output, conversion.text);
     return {{"output", *arguments.output}};
 }
 

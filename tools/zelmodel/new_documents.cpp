@@ -9,7 +9,7 @@
 #include "describe/terminal_text.h"
 #include "document_output.h"
 #include "exit_code.h"
-#include "new_file.h"
+#include "files/new_file.h"
 
 namespace
 {
@@ -64,7 +64,7 @@ void writeFiles(const std::vector<NewDocument>& documents, Session& session)
             if (document.file.empty())
                 continue;
             session.reading.name = document.file;
-            writeNewFile(document.file, document.text + '\n');
+            files::writeNewFile(document.file, document.text + '\n');
             written.push_back(document.file);
         }
     }

@@ -8,6 +8,7 @@
 #include "describe/words.h"
 #include "exit_code.h"
 #include "schedule_input.h"
+#include "when/days_asked.h"
 #include "when/ical.h"
 #include "when/next_days.h"
 
@@ -15,11 +16,6 @@ namespace
 {
 
 using zelplatform::model::CDate;
-
-constexpr unsigned MostDays = 1000;
-constexpr unsigned UsualDays = 10;
-constexpr long MostDaysToUntil = 36600;
-constexpr long SecondsOfDay = 86400;
 
 struct Arguments
 {
@@ -31,57 +27,36 @@ struct Arguments
     bool isIcal = false;
 };
 
-long daysTo(const CDate& from, const CDate& until)
+when::DaysAsked daysAsked(const Arguments& arguments)
 {
-    return (datetime::CDateTime(until).toUnixTime() - datetime::CDateTime(from).toUnixTime()) / SecondsOfDay;
+    return {arguments.from.value_or(today()), arguments.until, arguments.count, arguments.isPrevious};
 }
 
 void check(const Arguments& arguments)
 {
     checkScheduleArguments(arguments.documents);
-    if (!arguments.until)
-        return;
-    const auto days = daysTo(arguments.from.value_or(today()), *arguments.until);
-    if (days < 0)
-        throw UsageError("--until", "The last day lies before the first");
-    if (days > MostDaysToUntil)
-        throw UsageError("--until",
-                         "The last day lies more than " + std::to_string(MostDaysToUntil) + " days after the first");
-}
-
-std::vector<when::StartDay> findDays(const when::Evaluation& evaluation, const Arguments& arguments, const CDate& from)
-{
-    if (arguments.isPrevious)
-        return evaluation.daysBefore(from, arguments.count.value_or(UsualDays));
-    const auto all = static_cast<unsigned>(MostDaysToUntil) + 1;
-    return evaluation.daysFrom(from, arguments.count.value_or(arguments.until ? all : UsualDays), arguments.until);
-}
-
-std::string tellNoDay(const Arguments& arguments)
-{
-    const auto within = " within " + std::to_string(when::Evaluation::YearsToSearch) + " years";
-    if (arguments.isPrevious)
-        return "no day came" + within + " before";
-    return "no day comes" + (arguments.until ? " up to " + describe::isoDate(*arguments.until) : within);
+    const auto fault = when::faultOfUntil(daysAsked(arguments));
+    if (!fault.empty())
+        throw UsageError("--until", fault);
 }
 
 int next(const Arguments& arguments, Session& session)
 {
     const auto& file = arguments.documents.file;
     const auto input = readSchedule(arguments.documents, session.reading);
-    const auto from = arguments.from.value_or(today());
-    const when::Evaluation evaluation(input.schedule, input.window.get(), from);
-    const auto days = findDays(evaluation, arguments, from);
+    const auto asked = daysAsked(arguments);
+    const when::Evaluation evaluation(input.schedule, input.window.get(), asked.from);
+    const auto days = when::findDays(evaluation, asked);
     if (days.empty())
         return tellNothing(session, arguments.documents, "next",
-                           when::tellWhyNothing(evaluation, input.kind, tellNoDay(arguments)));
+                           when::tellWhyNothing(evaluation, input.kind, when::tellNoDay(asked)));
     const auto& style = session.output.style();
     if (arguments.isIcal)
     {
         session.output.print(when::renderIcal(evaluation, days, nameOf(file)));
         return exit_code::Fine;
     }
-    const auto tree = when::describeDays(evaluation, from, days);
+    const auto tree = when::describeDays(evaluation, asked.from, days);
     if (session.output.isJson())
         session.output.printJson("next", file, {{tree.name, describe::toJson(tree, style)}});
     else
@@ -101,7 +76,7 @@ void addNext(Dispatcher& commands)
     addDateOption(command, "--until", arguments->until, "The last day that counts");
     command.add("-n,--count", arguments->count, "How many days; 10, or all with --until, unless given")
         .typeName("N")
-        .between(1, MostDays);
+        .between(1, when::DaysAsked::MostDays);
     command.addFlag("--previous", arguments->isPrevious, "The last days before --from, the latest first")
         .excludes("--until");
     command.addFlag("--ical", arguments->isIcal, "Print a calendar for other programs (RFC 5545)").excludes("--json");

@@ -15,8 +15,8 @@
 #include "edit/field_list.h"
 #include "edit/fields.h"
 #include "exit_code.h"
-#include "new_file.h"
-#include "replace_file.h"
+#include "files/new_file.h"
+#include "files/replace_file.h"
 
 namespace
 {
@@ -95,12 +95,12 @@ Written writeAsTold(const Arguments& arguments, const Change& change, Session& s
         // Nothing was asked for that the file does not hold already.
         if (change.differences.empty())
             return {{"output", arguments.file}, {"unchanged", true}};
-        return {{"output", arguments.file}, {"backup", replaceFile(arguments.file, text)}};
+        return {{"output", arguments.file}, {"backup", files::replaceFile(arguments.file, text)}};
     }
     if (arguments.output.empty())
         return {{"document", text}};
     session.reading.name = arguments.output;
-    writeNewFile(arguments.output, text);
+    files::writeNewFile(arguments.output, text);
     return {{"output", arguments.output}};
 }
 

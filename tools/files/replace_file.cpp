@@ -12,9 +12,11 @@
 
 #include <zelplatform/util/util.h>
 
-#include "input.h"
+#include "input_file.h"
 #include "new_file.h"
 
+namespace files
+{
 namespace
 {
 
@@ -127,3 +129,5 @@ std::string replaceFile(const std::string& path, const std::string& text)
     syncFolderOf(target);
     return backup.keep();
 }
+
+} // namespace files

@@ -6,8 +6,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "input.h"
+#include "input_file.h"
 
+namespace files
+{
 namespace
 {
 
@@ -44,3 +46,5 @@ void writeNewFile(const std::string& path, const std::string& text, mode_t mode)
     ::unlink(path.c_str());
     failToWrite(error);
 }
+
+} // namespace files
