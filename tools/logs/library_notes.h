@@ -9,7 +9,8 @@ namespace logs
 {
 
 /// Catches what the library notes of a line that it skips, for as long as the object lives: nothing of it reaches the
-/// log then. Objects of one process must end in the opposite order of their beginning.
+/// log then. It is for the thread that made it; what others note goes where it went before. Objects of one process must
+/// end in the opposite order of their beginning.
 class LibraryNotes
 {
 public:
