@@ -1,6 +1,7 @@
 option(ZELMODEL_WERROR "Treat compiler warnings as errors" OFF)
 option(ZELMODEL_BUILD_TESTS "Build the tests" ON)
 option(ZELMODEL_BUILD_BENCH "Build the benchmarks" OFF)
+option(ZELMODEL_BUILD_PYTHON "Build the module for Python" OFF)
 option(ZELMODEL_BUILD_FUZZ "Build the fuzzer (clang only)" OFF)
 option(ZELMODEL_COVERAGE "Instrument for llvm-cov (clang only)" OFF)
 set(ZELMODEL_PLATFORM "" CACHE STRING
