@@ -13,7 +13,7 @@ shell_packages=(bash zsh fish groff-base mandoc python3)
 abi_packages=(abigail-tools)
 picture_packages=(chromium fonts-liberation poppler-utils python3-pil)
 python_packages=(python3 python3-dev pybind11-dev python3-pytest mypy)
-package_packages=(debhelper dpkg-dev lintian)
+package_packages=(debhelper dpkg-dev lintian dh-python python3-dev pybind11-dev)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.
 build() {

@@ -13,8 +13,8 @@ using namespace zelmodel_test;
 namespace
 {
 
-constexpr const char* Pages[] = {"README.md", "docs/design.md", "docs/formats.md", "docs/security.md",
-                                 "docs/testing.md"};
+constexpr const char* Pages[] = {"README.md",      "docs/design.md",   "docs/formats.md",
+                                 "docs/python.md", "docs/security.md", "docs/testing.md"};
 
 /// The name by which a heading is linked: small letters, blanks as hyphens, no other marks.
 std::string anchorOf(const std::string& heading)
