@@ -1,6 +1,8 @@
 """How refusals are told: an Error with its chain of sentences and its line, whatever came in."""
 
 import os
+import subprocess
+import sys
 from pathlib import Path
 from typing import Callable
 
@@ -180,3 +182,23 @@ def test_an_error_is_a_value_error_that_can_be_made_by_hand() -> None:
     error = zelmodel.Error("by hand")
     assert isinstance(error, ValueError)
     assert (str(error), error.chain, error.line) == ("by hand", [], None)
+
+
+SHORT_OF_MEMORY = """
+import resource, sys, zelmodel
+text = b'<SqlVariant Type="1" Value="' + b"x" * (40 << 20) + b'"/>'
+taken = int(open("/proc/self/statm").read().split()[0]) * resource.getpagesize()
+limit = taken + (int(sys.argv[1]) << 20)
+resource.setrlimit(resource.RLIMIT_AS, (limit, limit))
+try:
+    zelmodel.parse(text)
+except MemoryError:
+    print("MemoryError")
+assert zelmodel.parse(b'<SqlVariant Type="1" Value=""/>').describe()
+"""
+
+
+@pytest.mark.parametrize("spare_mib", [20, 60], ids=["for the text", "for the parser"])
+def test_memory_that_runs_out_is_told_as_such(spare_mib: int) -> None:
+    call = [sys.executable, "-c", SHORT_OF_MEMORY, str(spare_mib)]
+    assert subprocess.run(call, capture_output=True, text=True, check=True).stdout == "MemoryError\n"
