@@ -22,6 +22,7 @@ struct ZELMODEL_API BackupJobCompression
         Zstd9 = 9
     };
 
+    /// What a new job has.
     static constexpr type Default = Lz4;
 
     /// The name; throws "Unable to convert BackupJobCompression::type [%1] to string.".

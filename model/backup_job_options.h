@@ -13,6 +13,7 @@
 #include <zelmodel/structs/schedule/schedule_options.h>
 #include <zelplatform/xml/xml.h>
 
+/// The data model: jobs, sessions, enumerations, dates.
 namespace zelplatform::model
 {
 
@@ -31,12 +32,13 @@ struct ZELMODEL_API SBackupJobOptions
     /// schedule's start and active full reset, and the default snapshot mode. Leaves the rest alone.
     void setDefault();
 
-    /// Restore points to keep, 1..730; verify first, then store. Throws "Number of restore points to keep on disk
-    /// should be ...".
+    /// Restore points to keep, 1..730. Throws "Number of restore points to keep on disk should be ..." for any other
+    /// number, before it is stored; verifyMaxPoints stores nothing.
     void setMaxPoints(unsigned long count);
     static void verifyMaxPoints(unsigned long count);
 
-    /// Days to keep restore points, 1..730. Throws "Number of days for daily retention must be ...".
+    /// Days to keep restore points, 1..730. Throws "Number of days for daily retention must be ..." for any other
+    /// number, before it is stored; verifyMaxDays stores nothing.
     void setMaxDays(unsigned long count);
     static void verifyMaxDays(unsigned long count);
 
@@ -63,8 +65,11 @@ struct ZELMODEL_API SBackupJobOptions
     /// string [%1] failed. ...".
     static SBackupJobOptions fromStr(const std::string& text);
 
+    /// The compression and the block size of the backup.
     BackupJobCompression::type compression = BackupJobCompression::Default;
     KbBlockSize::type blockSize;
+
+    /// Whether maxPoints or maxDays counts. The two are what the setters check, 1..730; a document may hold more.
     ERetentionType::type retentionType = ERetentionType::Days;
     unsigned long maxPoints = 7;
     unsigned long maxDays = 7;
@@ -72,8 +77,11 @@ struct ZELMODEL_API SBackupJobOptions
     /// When set, data of machines that vanished from the job is kept so many days.
     std::optional<unsigned long> deletedVmDataRetentionDays;
 
+    /// Whether the backup is deduplicated, and from what it is taken.
     bool dedupEnabled = true;
     ESnapshotMode::type snapshotMode = ESnapshotMode::SnapshotRequired;
+
+    /// Commands before the freeze and after the thaw, and whether their failures are ignored.
     std::string preFreezeCommand;
     std::string postThawCommand;
     std::optional<bool> ignoreFreezeThawFailures;
@@ -81,13 +89,17 @@ struct ZELMODEL_API SBackupJobOptions
     /// Time-out of the freeze and thaw scripts, carried unchanged.
     std::optional<long> freezeThawScriptsTimeout;
 
+    /// Commands before and after the job.
     std::string preJobCommand;
     std::string postJobCommand;
+
+    /// How often a failed job is tried again.
     unsigned long retryCount = 0;
 
     /// Wait between retries, in milliseconds.
     unsigned long retryTimeoutMs = 600000;
 
+    /// The parts of the document that are records of their own.
     structs::SIndexingOptions indexing;
     structs::CScheduleOptions schedule;
     structs::gfs::SGfsPolicyInfo gfsPolicy;

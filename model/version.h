@@ -2,6 +2,7 @@
 
 #include <zelmodel/export.h>
 
+/// What the library says of itself.
 namespace zelmodel
 {
 

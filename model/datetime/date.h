@@ -24,6 +24,7 @@ public:
     /// The midnight that begins the date.
     operator datetime::CDateTime() const noexcept { return m_midnight; }
 
+    /// Dates compare by year, month and day.
     friend bool operator<(const CDate& a, const CDate& b) noexcept { return a.m_midnight < b.m_midnight; }
     friend bool operator==(const CDate& a, const CDate& b) noexcept { return a.m_midnight == b.m_midnight; }
     friend bool operator<=(const CDate& a, const CDate& b) noexcept { return !(b < a); }

@@ -17,6 +17,7 @@ public:
     /// Not set.
     CDateTimeEx() noexcept = default;
 
+    /// Seconds since 1970-01-01 00:00:00 UTC and the offset in seconds east of UTC, as they are given.
     CDateTimeEx(long utcSeconds, long offsetSeconds) noexcept : m_utc(utcSeconds), m_offset(offsetSeconds) {}
 
     CDateTimeEx(const CDateTimeEx&) noexcept = default;

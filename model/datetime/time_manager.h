@@ -12,6 +12,7 @@ class ZELMODEL_API ITimeManager
 public:
     virtual ~ITimeManager();
 
+    /// The moment that counts as now, with the local offset.
     virtual CDateTimeEx GetCurrentTime() const = 0;
 };
 

@@ -11,6 +11,7 @@ namespace zelplatform::model
 class ZELMODEL_API CTimeSpanEx
 {
 public:
+    /// So many seconds; a negative number is a span backwards.
     explicit CTimeSpanEx(long seconds) noexcept : m_seconds(seconds) {}
 
     /// The span of so many hours of 3600 seconds; throws when the seconds do not fit into 64 bits.
@@ -19,8 +20,10 @@ public:
     /// The span of so many days of 86400 seconds; throws when the seconds do not fit into 64 bits.
     static CTimeSpanEx fromDays(long days);
 
+    /// The seconds, with their sign.
     long getTotalSeconds() const noexcept { return m_seconds; }
 
+    /// Spans compare by their seconds.
     friend bool operator<(const CTimeSpanEx& a, const CTimeSpanEx& b) noexcept { return a.m_seconds < b.m_seconds; }
     friend bool operator>(const CTimeSpanEx& a, const CTimeSpanEx& b) noexcept { return a.m_seconds > b.m_seconds; }
     friend bool operator<=(const CTimeSpanEx& a, const CTimeSpanEx& b) noexcept { return a.m_seconds <= b.m_seconds; }

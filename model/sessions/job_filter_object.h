@@ -40,14 +40,25 @@ struct ZELMODEL_API EJobFilterObject
 class ZELMODEL_API CJobFilterObject
 {
 public:
+    /// Takes any number; CheckUnknown tells whether it is one of ours.
     explicit CJobFilterObject(EJobFilterObject::type type) noexcept : m_type(type) {}
 
+    /// The kind as it was given.
     EJobFilterObject::type GetType() const noexcept { return m_type; }
 
+    /// A file mask, a directory, a user's profile or a USB drive.
     bool IsFileLevel() const noexcept;
+
+    /// A device or a mount point.
     bool IsVolumeLevel() const noexcept;
+
+    /// A simple disk, by either of its two numbers.
     bool IsDevice() const noexcept;
+
+    /// MountPoint alone.
     bool IsMountpoint() const noexcept;
+
+    /// AllSystem alone.
     bool IsAllSystem() const noexcept;
 
     /// Of no level: 0, the retired numbers and every number that is none of ours.
@@ -56,6 +67,7 @@ public:
     /// Throws "Unknown filter object type: [%1]." when IsUnknown.
     void CheckUnknown() const;
 
+    /// The words for people; throws as EJobFilterObject::toUserFrendlyStr does.
     std::string GetUserFriendlyStr() const;
 
 private:

@@ -13,6 +13,7 @@ namespace zelplatform::model
 /// Where the backup of a session goes, what it makes and how its retries stand, document "Details".
 struct ZELMODEL_API JobSessionDetails
 {
+    /// The name of the element and those of its attributes.
     static constexpr const char* m_xml_Details = "Details";
     static constexpr const char* m_xml_RepoName = "repo_name";
     static constexpr const char* m_xml_BackupType = "backup_type";
@@ -23,6 +24,7 @@ struct ZELMODEL_API JobSessionDetails
     static constexpr const char* m_xml_InitialRetriesNumber = "initial_retries_number";
     static constexpr const char* m_xml_CurrentAttemptNumber = "current_attempt_number";
 
+    /// The target, the kind of the restore point that is made, and its identifier, all zero before there is one.
     std::string repositoryName;
     OibAlgorithm::type backupType = OibAlgorithm::Full;
     guid::guid_t restorePointId;
@@ -30,8 +32,12 @@ struct ZELMODEL_API JobSessionDetails
     /// In bytes; -1 is unknown.
     long repositoryFreeSpace = -1;
     long repositoryTotalSpace = -1;
+
+    /// How many retries the job began with, and which attempt this is.
     unsigned long initialRetriesNumber = 0;
     unsigned long currentAttemptNumber = 0;
+
+    /// True while the next attempt is waited for.
     bool isJobAwaitingForRetry = false;
 
     /// True when there is no repository name, whatever the rest says.

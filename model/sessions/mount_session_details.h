@@ -15,6 +15,8 @@ struct ZELMODEL_API SMountSessionDetails
 {
     /// The path.
     std::string mountPoint;
+
+    /// The restore point that is mounted; all zero when none is.
     guid::guid_t restorePointId;
 
     /// True when there is no restore point, whatever the path says.

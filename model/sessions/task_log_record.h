@@ -22,12 +22,18 @@ struct ZELMODEL_API STaskLogRecord
 
     /// Grows each time the record changes.
     unsigned long updateUsn = 0;
+
+    /// What people read.
     std::string title;
     std::string description;
 
     /// In UTC.
     datetime::CDateTime updateTime{true};
+
+    /// The name of what the line is about.
     std::string object;
+
+    /// In UTC.
 
     /// In UTC.
     datetime::CDateTime startTime{true};
@@ -39,6 +45,7 @@ struct ZELMODEL_API STaskLogRecord
     /// empty pointer.
     static STaskLogRecord FromMivo(const std::shared_ptr<mivo::CMivoCommandArgs>& arguments);
 
+    /// The arguments that FromMivo reads.
     std::shared_ptr<mivo::CMivoCommandArgs> ToMivo() const;
 
     /// Reads the attributes of the node, all of which must be there; the managing side's status names become severity

@@ -6,6 +6,7 @@
 #include <zelmodel/export.h>
 #include <zelmodel/size/data_size_unit.h>
 
+/// What not only the model uses.
 namespace zelplatform
 {
 
@@ -19,33 +20,39 @@ class ZELMODEL_API CSize
     using IfSize = std::enable_if_t<std::is_same_v<T, CSize>, CSize>;
 
 public:
+    /// So many bytes.
     CSize(unsigned long bytes) noexcept : m_bytes(bytes) {}
 
     /// Reads a whole number of bytes, "10", or a number with a unit, "1.5 k" or "10GB", in any letter case. The
     /// fraction of a byte is dropped. Throws for a number or a unit that is none, and for sizes of 16 EB and more.
     static CSize FromStr(const std::string& text);
 
+    /// The bytes as a plain number.
     operator unsigned long&() noexcept { return m_bytes; }
     operator const unsigned long&() const noexcept { return m_bytes; }
 
+    /// Of two sizes; with a plain number the result is a plain number.
     template <class T>
     friend IfSize<T> operator+(const CSize& a, const T& b) noexcept
     {
         return CSize(a.m_bytes + b.m_bytes);
     }
 
+    /// Of two sizes; wraps below 0.
     template <class T>
     friend IfSize<T> operator-(const CSize& a, const T& b) noexcept
     {
         return CSize(a.m_bytes - b.m_bytes);
     }
 
+    /// Of two sizes; wraps above 64 bits.
     template <class T>
     friend IfSize<T> operator*(const CSize& a, const T& b) noexcept
     {
         return CSize(a.m_bytes * b.m_bytes);
     }
 
+    /// Of two sizes, rounded down; the second must not be 0.
     template <class T>
     friend IfSize<T> operator/(const CSize& a, const T& b) noexcept
     {

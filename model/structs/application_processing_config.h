@@ -17,8 +17,11 @@ struct ZELMODEL_API SApplicationProcessingOracleConfig
 {
     /// The operating-system user that the database is reached as.
     CUniString username;
+
+    /// When archived redo logs are truncated.
     SOracleArchivedLogsTruncationConfig truncation;
 
+    /// The document as text; throws for a mode of truncation without a name.
     std::string ToXmlString() const;
 
     /// A document without "LogsTruncateConfig" keeps the defaults. Throws exc::CRuntimeExc for what is missing or
@@ -43,8 +46,11 @@ struct ZELMODEL_API SApplicationProcessingPostgresConfig
 {
     /// The operating-system user that the server is reached as.
     CUniString osUser;
+
+    /// How the agent authenticates.
     EPostgreSqlAuthType::type authType = EPostgreSqlAuthType::Password;
 
+    /// The document as text; throws for a way to authenticate without a name.
     std::string ToXmlString() const;
 
     /// Throws exc::CRuntimeExc for what is missing or wrong.

@@ -35,6 +35,7 @@ struct ZELMODEL_API EArchivedLogsTruncationMode
 /// When archived redo logs of an Oracle database are truncated. Reading does not check; callers Validate.
 struct ZELMODEL_API SOracleArchivedLogsTruncationConfig
 {
+    /// What the logs are measured by.
     EArchivedLogsTruncationMode::type mode = EArchivedLogsTruncationMode::Disabled;
 
     /// In gigabytes, at most 999.

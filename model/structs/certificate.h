@@ -11,6 +11,7 @@ namespace zelplatform::model::structs
 /// A certificate and its private key.
 struct ZELMODEL_API SCertificate
 {
+    /// Either may be empty; whether they belong together is not checked.
     std::shared_ptr<crypto::openssl::CX509> certificate;
     std::shared_ptr<crypto::openssl::CEvpPrivateKey> privateKey;
 

@@ -11,6 +11,7 @@ namespace zelplatform::model::structs
 /// The key of an option. Written only.
 struct ZELMODEL_API SEntityOptionKey
 {
+    /// Any text that XML can carry.
     std::string key;
 
     /// Sets the attribute "Key" of the node.

@@ -34,6 +34,7 @@ struct ZELMODEL_API SIndexingOptions
     /// The version that ToXml writes and the highest that FromXml reads.
     static constexpr unsigned long s_version = 2;
 
+    /// Which files are indexed.
     EIndexingType::type type = EIndexingType::IsOff;
 
     /// The folders of IndexOnly and IndexExcept as one text; its inner form is the caller's.

@@ -19,9 +19,11 @@ public:
     /// Throws "COwnershipInfo: Failed to check that type and mode is compatible. ...".
     COwnershipInfo(EOwnershipType::type type, const std::string& mode);
 
+    /// The pair.
     EOwnershipType::type GetType() const noexcept { return m_type; }
     const std::string& GetMode() const noexcept { return m_mode; }
 
+    /// One question each about the owner, or about owner and mode.
     bool HasNoOwner() const noexcept { return m_type == EOwnershipType::NoOwner; }
     bool HasQOR() const noexcept { return m_type == EOwnershipType::QOR; }
     bool HasQOR_Job() const noexcept { return HasQOR() && m_mode == EOwnershipMode::QOR_Job; }

@@ -10,6 +10,7 @@ namespace zelplatform::model::structs
 /// In which mode the agent is owned: a category and a mode with a dot between them. These are texts, not numbers.
 struct ZELMODEL_API EOwnershipMode
 {
+    /// The modes, and the two categories with which they begin.
     static constexpr const char* NotSet = "NotSet";
     static constexpr const char* _CategoryQOR = "QOR";
     static constexpr const char* QOR_Job = "QOR.Job";

@@ -13,14 +13,21 @@ namespace zelplatform::model::structs
 /// Who the managing backup server is and how it is reached; exchanged in a binary form.
 struct ZELMODEL_API SQorServer
 {
+    /// Who the server is, and what it says of itself.
     guid::guid_t serverId;
     std::string name;
     std::string dnsName;
     std::string description;
     std::string version;
     std::string platformName;
+
+    /// Where it is reached.
     std::vector<io::net::CNetworkEndpoint> endpoints;
+
+    /// Whether the agent trusts the server.
     bool isTrusted = false;
+
+    /// The identifier of the server's installation.
     guid::guid_t installationId;
 
     /// The fields in their order; texts with their length in four bytes, endpoints as one text.

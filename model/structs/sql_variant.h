@@ -12,8 +12,11 @@ struct ZELMODEL_API SSqlVariant
 {
     /// The type's code.
     int type = 0;
+
+    /// The value as text.
     std::string value;
 
+    /// The document as text; throws for a value that XML cannot carry.
     std::string ToXmlStr() const;
 
     friend bool operator==(const SSqlVariant& a, const SSqlVariant& b)

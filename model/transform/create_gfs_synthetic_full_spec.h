@@ -13,14 +13,20 @@ namespace zelplatform::model::transform
 class ZELMODEL_API CCreateGfsSyntheticFullSpec : public ITransformSpec
 {
 public:
+    /// The session, the backup, what is done and the file to write. Nothing is checked.
     CCreateGfsSyntheticFullSpec(const guid::guid_t& sessionId, const guid::guid_t& backupId,
                                 ETransformOperationType::type operationType, std::string jobTargetFile);
 
+    /// Replaces the file.
     void SetJobTargetFile(const std::string& file) { m_jobTargetFile = file; }
 
     guid::guid_t GetSessionId() const override { return m_sessionId; }
+
+    /// What was given or read.
     guid::guid_t GetBackupId() const noexcept { return m_backupId; }
     ETransformOperationType::type GetTrasformOperationType() const override { return m_operationType; }
+
+    /// What was given or read.
     const std::string& GetJobTargetFile() const noexcept { return m_jobTargetFile; }
 
     std::string ToString() const override;

@@ -14,6 +14,8 @@ namespace zelplatform::model::transform
 class ZELMODEL_API CCreateSyntheticFullSpec : public ITransformSpec
 {
 public:
+    /// The session, the backup, its last increments with the newest at the end, and the file to write. Nothing is
+    /// checked.
     CCreateSyntheticFullSpec(const guid::guid_t& sessionId, const guid::guid_t& backupId,
                              std::vector<guid::guid_t> lastIncrementPoints, std::string jobTargetFile);
 
@@ -28,10 +30,13 @@ public:
         return *this = CCreateSyntheticFullSpec(other);
     }
 
+    /// Replaces the points or the file.
     void SetLastIncrementPoints(const std::vector<guid::guid_t>& points) { m_lastIncrementPoints = points; }
     void SetJobTargetFile(const std::string& file) { m_jobTargetFile = file; }
 
     guid::guid_t GetSessionId() const override { return m_sessionId; }
+
+    /// What was given or read.
     guid::guid_t GetBackupId() const noexcept { return m_backupId; }
     const std::vector<guid::guid_t>& GetLastIncrementPoints() const noexcept { return m_lastIncrementPoints; }
     const std::string& GetJobTargetFile() const noexcept { return m_jobTargetFile; }

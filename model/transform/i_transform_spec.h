@@ -8,6 +8,7 @@
 #include <zelplatform/guid/guid.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+/// Work on an existing backup chain.
 namespace zelplatform::model::transform
 {
 
@@ -22,6 +23,7 @@ public:
     ITransformSpec& operator=(ITransformSpec&&) = default;
     virtual ~ITransformSpec();
 
+    /// The session that performs the work.
     virtual guid::guid_t GetSessionId() const = 0;
 
     /// Spelled so in every component.

@@ -17,6 +17,7 @@ public:
     /// All zero, false or empty.
     CTransformSpec() = default;
 
+    /// Each stores what it is given, unchecked.
     void SetSessionId(const guid::guid_t& sessionId) noexcept { m_sessionId = sessionId; }
     void SetBackupId(const guid::guid_t& backupId) noexcept { m_backupId = backupId; }
     void SetTransformOperationType(ETransformOperationType::type type) noexcept { m_operationType = type; }
@@ -30,8 +31,12 @@ public:
     void AddPointId(const guid::guid_t& pointId) { m_pointIds.push_back(pointId); }
 
     guid::guid_t GetSessionId() const override { return m_sessionId; }
+
+    /// What was set or read: the backup whose points are meant.
     guid::guid_t GetBackupId() const noexcept { return m_backupId; }
     ETransformOperationType::type GetTrasformOperationType() const override { return m_operationType; }
+
+    /// What was set or read.
     ETransformType::type GetTransformType() const noexcept { return m_transformType; }
     bool IsIntegrityCheckEnabled() const noexcept { return m_integrityCheckEnabled; }
 

@@ -16,6 +16,7 @@ namespace zelplatform::model::structs
 /// agent; treat both as secret.
 struct ZELMODEL_API SExplicitBackupKeys
 {
+    /// The bundle's own identifier, and the key sets under theirs.
     guid::guid_t id;
     std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
 
@@ -27,7 +28,11 @@ struct ZELMODEL_API SExplicitBackupKeys
     /// fails.
     void Unserialize(io::binary_stream_tt& stream);
 
+    /// The binary form as base64 text, in ordinary memory: the caller erases it. Throws as Serialize does.
     std::string ToBase64() const;
+
+    /// Reads what ToBase64 writes; bytes after the record are passed over. Throws, without quoting the text, for what
+    /// is no base64 and as Unserialize does.
     static SExplicitBackupKeys FromBase64(const std::string& text);
 };
 
@@ -41,6 +46,7 @@ inline bool operator!=(const SExplicitBackupKeys& a, const SExplicitBackupKeys& 
 /// A key set that is derived from a password, with the bytes of its derivation. Treat its forms as secret.
 struct ZELMODEL_API SPasswordDerivedKey
 {
+    /// The derived keys.
     std::shared_ptr<crypto::CKeySet> keySet;
 
     /// At most 255 bytes.
@@ -53,7 +59,11 @@ struct ZELMODEL_API SPasswordDerivedKey
     /// Reads what Serialize writes. Nothing changes when the read fails.
     void Unserialize(io::binary_stream_tt& stream);
 
+    /// The binary form as base64 text, in ordinary memory: the caller erases it. Throws as Serialize does.
     std::string ToBase64() const;
+
+    /// Reads what ToBase64 writes; bytes after the record are passed over. Throws, without quoting the text, for what
+    /// is no base64 and as Unserialize does.
     static SPasswordDerivedKey FromBase64(const std::string& text);
 };
 

@@ -19,7 +19,11 @@ struct ZELMODEL_API SCryptoKey
 {
     /// The record's own identifier, fresh at each conversion; not the key set's.
     guid::guid_t id;
+
+    /// The key set's identifier.
     crypto::CKeySetId keySetId;
+
+    /// The algorithm and the purpose, as the managing server numbers them.
     ECryptoAlg::type alg = ECryptoAlg::Qor1;
     ECryptoKeyType::type type = ECryptoKeyType::Password;
 
@@ -28,6 +32,8 @@ struct ZELMODEL_API SCryptoKey
 
     /// In UTC, whole seconds; a key set from 1970-01-01 00:00:00 or before has none, and goes back as 0.
     CDateTimeEx creationTime;
+
+    /// The keys themselves, shared with the key set.
     std::vector<std::shared_ptr<crypto::CKey>> keys;
 
     /// Throws "Failed to convert CKeySetPtr to SCryptoKey. Keyset: %1 ..." without a trace, for an empty pointer too.

@@ -28,10 +28,13 @@ struct ZELMODEL_API EGfsFlags
 class ZELMODEL_API CGfsFlags
 {
 public:
+    /// The set of these bits.
     explicit CGfsFlags(unsigned bits = 0) noexcept : m_bits(bits) {}
 
+    /// All bits.
     operator unsigned() const noexcept { return m_bits; }
 
+    /// Adds the flag's bits or takes them out.
     void set(EGfsFlags::type flag) noexcept { m_bits |= flag; }
     void clear(EGfsFlags::type flag) noexcept { m_bits &= ~static_cast<unsigned>(flag); }
 

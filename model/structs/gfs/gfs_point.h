@@ -15,7 +15,11 @@ struct ZELMODEL_API SGfsPoint
 {
     /// The backup storage that holds the point.
     guid::guid_t storageId;
+
+    /// The periods that the point stands for.
     CGfsFlags gfsFlags;
+
+    /// When the point was made, in UTC.
     datetime::CDateTime creationTime{true};
 
     /// "Storage id [...] creation time [...] gfs flags [...]".
@@ -32,6 +36,7 @@ struct ZELMODEL_API SGfsPoint
 /// Orders points by creation time alone; points of the same time are equivalent.
 struct SCreationTimeComparator
 {
+    /// True when the first point is older.
     bool operator()(const SGfsPoint& a, const SGfsPoint& b) const noexcept { return a.creationTime < b.creationTime; }
 };
 

@@ -8,12 +8,14 @@
 #include <zelplatform/datetime/date_time.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+/// Long-term (grandfather-father-son) retention.
 namespace zelplatform::model::structs::gfs
 {
 
 /// The names of the weekly rule in documents, in the short and the long variant.
 struct SGfsWeeklyPolicyInfoTraits
 {
+    /// Names of the rule's element and of the attribute with its count.
     static constexpr const char* ShortElement = "Weekly";
     static constexpr const char* LongElement = "GfsWeeklyPolicy";
     static constexpr const char* ShortKeepCount = "KeepBackupsForNumberOfWeeks";
@@ -23,6 +25,7 @@ struct SGfsWeeklyPolicyInfoTraits
 /// The names of the monthly rule.
 struct SMonthlyGfsPolicyInfoTraits
 {
+    /// Names of the rule's element and of the attribute with its count.
     static constexpr const char* ShortElement = "Monthly";
     static constexpr const char* LongElement = "GfsMonthlyPolicy";
     static constexpr const char* ShortKeepCount = "KeepBackupsForNumberOfMonths";
@@ -32,6 +35,7 @@ struct SMonthlyGfsPolicyInfoTraits
 /// The names of the yearly rule.
 struct SYearlyGfsPolicyInfoTraits
 {
+    /// Names of the rule's element and of the attribute with its count.
     static constexpr const char* ShortElement = "Yearly";
     static constexpr const char* LongElement = "GfsYearlyPolicy";
     static constexpr const char* ShortKeepCount = "KeepBackupsForNumberOfYears";
@@ -43,6 +47,7 @@ struct SYearlyGfsPolicyInfoTraits
 template <class TTraits>
 struct SGfsPolicyInfoBase
 {
+    /// Whether the rule is in force.
     bool isEnabled = false;
 
     /// A negative count is written as it is and cannot be read back.
@@ -82,6 +87,7 @@ extern template struct ZELMODEL_API SGfsPolicyInfoBase<SYearlyGfsPolicyInfoTrait
 /// other's rules.
 struct ZELMODEL_API SGfsPolicyInfo
 {
+    /// Whether the policy is in force, and the rules that it has.
     bool isEnabled = false;
     std::optional<SGfsPolicyInfoBase<SGfsWeeklyPolicyInfoTraits>> weekly;
     std::optional<SGfsPolicyInfoBase<SMonthlyGfsPolicyInfoTraits>> monthly;

@@ -20,6 +20,7 @@ namespace zelplatform::model::structs
 /// The keys that a container's backups are encrypted with. Filled by the library's clients; in no document.
 struct ZELMODEL_API SCloudContainerEncryption
 {
+    /// The key set in use, the key in use, and all key sets under their identifiers; pointers may be empty.
     std::shared_ptr<crypto::CKeySet> keySet;
     std::shared_ptr<crypto::CKey> key;
     std::map<guid::guid_t, std::shared_ptr<crypto::CKeySet>> keySets;
@@ -37,23 +38,35 @@ inline bool operator!=(const SCloudContainerEncryption& a, const SCloudContainer
 /// secret.
 struct ZELMODEL_API SExternalRepoCloudContainer
 {
+    /// How the container's storage is reached.
     using S3Params = boost::variant<SAmazonS3SpecificParams>;
 
+    /// The repository's identifier and its region.
     guid::guid_t id;
     std::string regionId;
 
     /// Written and never read back, on purpose.
     std::string containerName;
+
+    /// The keys, when the backups are encrypted.
     std::optional<SCloudContainerEncryption> encryption;
+
+    /// The name that people see.
     std::string repositoryName;
 
     /// Only the GUID survives reading; what accompanies it is dropped.
     cloudbackuplib::CCloudRepoClientId clientId;
+
+    /// The words for the client. Of what follows, the string form carries the lock and three texts of the parameters.
     std::string clientDescription;
     std::string backupPath;
     std::string ownerName;
     std::string tag;
+
+    /// Whether objects of the container can be locked.
     bool isObjectLockEnabled = false;
+
+    /// How the container is reached, and its extents under their identifiers.
     S3Params s3Params;
     std::map<guid::guid_t, S3Params> extentS3Params;
 

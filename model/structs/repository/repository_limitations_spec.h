@@ -17,25 +17,32 @@ public:
     /// All zero or false.
     CRepositoryLimitationsSpec() = default;
 
+    /// All fields in the order of the getters.
     CRepositoryLimitationsSpec(const guid::guid_t& repositoryId, EBackupMode::type backupMode, bool fullBackupEnabled,
                                bool compactFullEnabled, bool transformIncrementsToSynthetic,
                                bool transformFullToSynthetic, int chainLength);
 
+    /// The repository that the limitations belong to.
     const guid::guid_t& GetRepositoryId() const noexcept { return m_repositoryId; }
     void SetRepositoryId(const guid::guid_t& repositoryId) noexcept { m_repositoryId = repositoryId; }
 
+    /// The mode that it requires.
     EBackupMode::type GetBackupMode() const noexcept { return m_backupMode; }
     void SetBackupMode(EBackupMode::type backupMode) noexcept { m_backupMode = backupMode; }
 
+    /// Whether active full backups are allowed.
     bool IsFullBackupEnabled() const noexcept { return m_fullBackupEnabled; }
     void SetFullBackupEnabled(bool enabled) noexcept { m_fullBackupEnabled = enabled; }
 
+    /// Whether the full backup may be compacted.
     bool GetIsCompactFullEnabled() const noexcept { return m_compactFullEnabled; }
     void SetCompactFullEnabled(bool enabled) noexcept { m_compactFullEnabled = enabled; }
 
+    /// Whether increments are to become synthetic backups.
     bool ShouldTransformIncrementsToSynthetic() const noexcept { return m_transformIncrementsToSynthetic; }
     void SetTransformIncrementsToSynthetic(bool transform) noexcept { m_transformIncrementsToSynthetic = transform; }
 
+    /// Whether the full backup is to become a synthetic one.
     bool ShouldTransformFullToSynthetic() const noexcept { return m_transformFullToSynthetic; }
     void SetTransformFullToSynthetic(bool transform) noexcept { m_transformFullToSynthetic = transform; }
 

@@ -22,12 +22,14 @@ namespace zelplatform::model::structs
 class ZELMODEL_API BackupWindow
 {
 public:
+    /// The names of the element, its attributes and its children.
     static constexpr const char* BackupWindowTag = "ScheduleWindow";
     static constexpr const char* MinutesTag = "Minutes";
     static constexpr const char* KindTag = "Kind";
     static constexpr const char* DaysTag = "Days";
     static constexpr const char* IntervalsTag = "Intervals";
 
+    /// The hours, and an offset in minutes that is only carried.
     BackupWindow(const DayHourMatrix& matrix, int hourlyOffsetMinutes);
     BackupWindow(const BackupWindow&) = default;
     BackupWindow(BackupWindow&&) noexcept = default;
@@ -35,6 +37,7 @@ public:
     BackupWindow& operator=(BackupWindow&&) noexcept = default;
     virtual ~BackupWindow();
 
+    /// What the constructor was given.
     const DayHourMatrix& getMatrix() const noexcept { return m_matrix; }
     int getHourlyOffsetMinutes() const noexcept { return m_hourlyOffsetMinutes; }
 
@@ -58,7 +61,8 @@ public:
     /// earlier ones.
     static DayHourMatrix getMatrix(const xmlpp::CXmlNode& node);
 
-    /// Reads the child "ScheduleWindow" of the parent.
+    /// Reads the child "ScheduleWindow" of the parent. Throws exc::CRuntimeExc for what is missing, for a day that is
+    /// none and for intervals that cannot be read.
     static std::shared_ptr<BackupWindow> fromXml(const xmlpp::CXmlNode& parent);
 
 private:

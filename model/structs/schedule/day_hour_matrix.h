@@ -21,6 +21,7 @@ public:
     DayHourMatrix& operator=(DayHourMatrix&&) noexcept = default;
     virtual ~DayHourMatrix();
 
+    /// The kind as it was given.
     EScheduleWindowKind getScheduleWindowKind() const noexcept { return m_kind; }
 
     /// The cell value of an hour that no text lists: 1 for Enabled, 0 for Disabled. Throws a pointer as the constructor

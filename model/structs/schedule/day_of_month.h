@@ -14,6 +14,7 @@ namespace zelplatform::model::structs
 class ZELMODEL_API CDayOfMonth
 {
 public:
+    /// What stands for the last day of a month.
     static constexpr unsigned long s_magicLastDayOfMonth = 32;
 
     /// Stores 1..32; any other number leaves the day not set, without a failure. Documents are read through this.
@@ -28,6 +29,7 @@ public:
     /// Same as Set.
     CDayOfMonth& operator=(unsigned long day);
 
+    /// The last day, or not set.
     void SetLast() noexcept;
     void Reset() noexcept;
 
@@ -35,6 +37,7 @@ public:
     unsigned long Get() const noexcept { return m_day; }
     operator unsigned long() const noexcept { return m_day; }
 
+    /// Whether there is a day, the last one included; whether it is the last one.
     bool IsSet() const noexcept { return m_day != 0; }
     bool IsSetLast() const noexcept { return m_day == s_magicLastDayOfMonth; }
 

@@ -32,11 +32,17 @@ public:
     /// Disabled, on the first day of every month.
     explicit CFullBackupOptions(EFullBackupType type);
 
+    /// These, unchecked.
     CFullBackupOptions(CScheduleCalendar calendar, bool enabled, EFullBackupType type);
 
+    /// On the days of the mask.
     void SetWeekly(const CWeekMask& weekMask);
+
+    /// On the first to last such week day of the months; refuses EWeekDayNumber::Every.
     void SetMonthly(EWeekDayNumber::type weekDayNumber, datetime::EDayOfWeek::type dayOfWeek,
                     const CMonthMask& monthMask);
+
+    /// On the day of the months; the day must be set and a month chosen.
     void SetMonthlyOnDay(const CDayOfMonth& dayOfMonth, const CMonthMask& monthMask);
 
     /// Every Saturday.
@@ -48,23 +54,30 @@ public:
     /// SetDefaultMonthly, then disabled.
     void Reset();
 
-    /// Stores the day, then the week-day number Every. For a calendar that is not monthly the second step fails and the
-    /// day stays changed, on purpose.
+    /// Stores the day, 1..31 or the last one, then the week-day number Every. For a calendar that is not monthly the
+    /// second step fails and the day stays changed, on purpose.
     void SetDayOfMonth(unsigned long day);
     void SetDayOfMonthLast();
 
+    /// As CScheduleCalendar::SetWeekDayNumber, for a monthly calendar only. The reset stores Every.
     void SetWeekDayNumber(EWeekDayNumber::type weekDayNumber);
     void ResetWeekDayNumber();
 
+    /// Whether full backups are made at all; the calendar stays.
     void SetEnabled(bool enabled) noexcept { m_isEnabled = enabled; }
     void Enable() noexcept { m_isEnabled = true; }
     void Disable() noexcept { m_isEnabled = false; }
     bool IsEnabled() const noexcept { return m_isEnabled; }
     bool IsDisabled() const noexcept { return !m_isEnabled; }
 
+    /// What was given to the constructor.
     EFullBackupType GetType() const noexcept { return m_type; }
+
+    /// The calendar itself; what is changed in it is not checked.
     const CScheduleCalendar& GetCalendar() const noexcept { return m_calendar; }
     CScheduleCalendar& GetCalendar() noexcept { return m_calendar; }
+
+    /// As of the calendar.
     const CWeekMask& GetWeekMask() const noexcept { return m_calendar.GetWeekMask(); }
     const CMonthMask& GetMonthMask() const noexcept { return m_calendar.GetMonthMask(); }
     CMonthMask& GetMonthMask() noexcept { return m_calendar.GetMonthMask(); }
@@ -87,15 +100,17 @@ public:
     }
     friend bool operator!=(const CFullBackupOptions& a, const CFullBackupOptions& b) { return !(a == b); }
 
+    /// As CScheduleCalendar::ToLogStr, whether enabled or not.
     std::string ToLogStr(bool shortNames) const;
 
     /// "SyntheticFullOptions" for a synthetic full, "ActiveFullOptions" for any other value.
     static std::string GetRootNodeName(EFullBackupType type);
 
-    /// Adds the child that GetRootNodeName names.
+    /// Adds the child that GetRootNodeName names. Throws "ActiveFullOptions: Failed to serialize to Xml. ...".
     void ToXml(xmlpp::CXmlNode& parent) const;
 
-    /// Reads the child of the type; a parent without it gives the default. Versions above 1 are refused.
+    /// Reads the child of the type; a parent without it gives the default. Versions above 1 are refused. Throws
+    /// "ActiveFullOptions: Failed to deserialize from Xml. ...".
     static CFullBackupOptions FromXml(const xmlpp::CXmlNode& parent, EFullBackupType type);
 
 private:

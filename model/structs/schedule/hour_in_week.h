@@ -10,14 +10,19 @@ namespace zelplatform::model::structs
 class ZELMODEL_API HourInWeek
 {
 public:
+    /// Day 0 is Sunday; hours are 0..23 after the carry.
     HourInWeek(int day, int hour) noexcept;
 
+    /// The hour after this one; after the last of Saturday comes the first of Sunday.
     HourInWeek getNextHour() const noexcept;
+
+    /// True for the same day and hour.
     bool isEqualTo(const HourInWeek& other) const noexcept;
 
     /// Seconds forward to the other hour, less than a week; 0 for the same hour.
     int getDistanceSec(const HourInWeek& to) const noexcept;
 
+    /// As the constructor left them.
     int day;
     int hour;
 };

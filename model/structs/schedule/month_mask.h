@@ -15,7 +15,10 @@ namespace zelplatform::model::structs
 class ZELMODEL_API CMonthMask
 {
 public:
+    /// All twelve months on or off.
     explicit CMonthMask(bool on);
+
+    /// These flags, whatever their number.
     explicit CMonthMask(std::vector<bool> mask) noexcept;
     CMonthMask(const CMonthMask&) = default;
     CMonthMask(CMonthMask&&) noexcept = default;
@@ -32,11 +35,13 @@ public:
     /// As FromStringVector, of a text split at the separator. Throws "MonthMask: Failed to convert from string. ...".
     static CMonthMask FromString(const std::string& text, char separator);
 
+    /// All twelve months on or off.
     void Reset(bool on);
 
     /// Throws std::out_of_range for a month that the mask does not have.
     void SetMonth(datetime::EMonth::type month, bool on);
 
+    /// The flags, January first.
     const std::vector<bool>& GetMask() const noexcept { return m_mask; }
 
     /// 12.
@@ -48,6 +53,7 @@ public:
     /// Asks for the month of the current local time.
     bool IsTodayOn() const;
 
+    /// True when every flag is so, or on, or off.
     bool IsAllMonths(bool value) const noexcept;
     bool IsAllMonthsOn() const noexcept;
     bool IsAllMonthsOff() const noexcept;

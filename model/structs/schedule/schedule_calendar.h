@@ -42,10 +42,11 @@ public:
     CScheduleCalendar(EScheduleType::type type, const std::optional<CScheduleTime>& time, const CWeekMask& weekMask,
                       const CMonthMask& monthMask, EWeekDayNumber::type weekDayNumber, const CDayOfMonth& dayOfMonth);
 
-    /// Each setter checks the time first, and changes nothing when it fails.
+    /// On the days of the mask. Each setter checks the time first, hours 0..23 and minutes 0..59, and changes nothing
+    /// when it fails; the failures begin with "ScheduleCalendar: Failed to set".
     void SetWeekly(const std::optional<CScheduleTime>& time, const CWeekMask& weekMask);
 
-    /// Refuses EWeekDayNumber::Every: that is a weekly schedule.
+    /// On the first to last such week day of the months. Refuses EWeekDayNumber::Every: that is a weekly schedule.
     void SetMonthly(const std::optional<CScheduleTime>& time, EWeekDayNumber::type weekDayNumber,
                     datetime::EDayOfWeek::type dayOfWeek, const CMonthMask& monthMask);
 
@@ -56,6 +57,7 @@ public:
     /// The time is the length of the period, at most 24 hours and 59 minutes; 0:00 is stored as 24:00.
     void SetPeriodically(const CScheduleTime& period);
 
+    /// One run after the other, without days and time.
     void SetContinuously();
 
     /// Every Saturday.
@@ -70,6 +72,7 @@ public:
     /// Checks the time by the calendar's kind and stores it, or removes it when none is given.
     void SetTime(const std::optional<CScheduleTime>& time);
 
+    /// Removes the time.
     void ResetTime() noexcept;
 
     /// Makes this calendar cover the other one too where that is possible without changing the kind of its days; true
@@ -77,6 +80,7 @@ public:
     /// "ScheduleCalendar: Failed to xor. ...".
     bool ExpandTo(const CScheduleCalendar& other);
 
+    /// The kind, and whether it is the one that is named; of a document it may be any number.
     EScheduleType::type GetScheduleType() const noexcept { return m_type; }
     bool IsScheduleWeekly() const noexcept { return m_type == EScheduleType::Weekly; }
     bool IsScheduleMonthly() const noexcept { return m_type == EScheduleType::Monthly; }
@@ -91,9 +95,12 @@ public:
 
     /// The time of day or period; throws std::bad_optional_access when there is none.
     const CScheduleTime& GetTime() const { return m_time.value(); }
+
+    /// The time of day or period, or nothing.
     const std::optional<CScheduleTime>& TryGetTime() const noexcept { return m_time; }
     bool IsTimeSet() const noexcept { return m_time.has_value(); }
 
+    /// The fields as they are stored; what is changed in them is not checked.
     const CWeekMask& GetWeekMask() const noexcept { return m_weekMask; }
     CWeekMask& GetWeekMask() noexcept { return m_weekMask; }
     const CMonthMask& GetMonthMask() const noexcept { return m_monthMask; }

@@ -10,6 +10,7 @@
 #include <zelplatform/io/io.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+/// The records that jobs and repositories are made of.
 namespace zelplatform::model::structs
 {
 
@@ -19,7 +20,10 @@ namespace zelplatform::model::structs
 class ZELMODEL_API CScheduleOptions
 {
 public:
+    /// The default of each part, and no window.
     CScheduleOptions();
+
+    /// The window is taken atomically. What was moved from has none.
     CScheduleOptions(const CScheduleOptions& other);
     CScheduleOptions(CScheduleOptions&& other) noexcept;
     CScheduleOptions& operator=(const CScheduleOptions& other);
@@ -32,14 +36,17 @@ public:
     /// Resets the start options and the active full. The synthetic full stays.
     void ResetBoth();
 
+    /// When the job starts.
     const CStartJobScheduleOptions& GetJobStartOptions() const noexcept { return m_jobStart; }
     CStartJobScheduleOptions& GetJobStartOptions() noexcept { return m_jobStart; }
     void SetJobStartOptions(const CStartJobScheduleOptions& options) { m_jobStart = options; }
 
+    /// When full backups are read afresh from the source.
     const CFullBackupOptions& GetActiveFullOptions() const noexcept { return m_activeFull; }
     CFullBackupOptions& GetActiveFullOptions() noexcept { return m_activeFull; }
     void SetActiveFullOptions(const CFullBackupOptions& options) { m_activeFull = options; }
 
+    /// When full backups are built from restore points.
     const CFullBackupOptions& GetSyntheticFullOptions() const noexcept { return m_syntheticFull; }
     CFullBackupOptions& GetSyntheticFullOptions() noexcept { return m_syntheticFull; }
     void SetSyntheticFullOptions(const CFullBackupOptions& options) { m_syntheticFull = options; }
@@ -65,7 +72,8 @@ public:
     /// FromXml into this object, whose window stays. Nothing changes when the read fails.
     void ReadXml(const xmlpp::CXmlNode& parent);
 
-    /// A document with the root "ScheduleOptions".
+    /// A document with the root "ScheduleOptions". Throws "ScheduleOptions: Failed to ToXmlString. ..." and
+    /// "ScheduleOptions: Failed to convert FromXmlString: %1 ..." with the whole text.
     std::string ToXmlString() const;
     static CScheduleOptions FromXmlString(const std::string& text);
 

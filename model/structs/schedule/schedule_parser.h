@@ -13,6 +13,7 @@ namespace zelplatform::model::structs
 class ZELMODEL_API ScheduleParser
 {
 public:
+    /// Between the first hour and the one after the last.
     static constexpr const char* RangeSeparator = "-";
 
     /// A comma and one blank; a comma alone does not separate.
@@ -30,10 +31,12 @@ public:
     /// kind.
     static unsigned getParsingValue(EScheduleWindowKind kind);
 
-    /// Lists the hours of the intervals on the day. The end hour is exclusive; an interval that ends before it starts
-    /// lists nothing. What was listed before a failure stays listed.
+    /// Lists the hours of the intervals on the day, 0..6. The end hour is exclusive, at most 24; an interval that ends
+    /// before it starts lists nothing. Throws "Cannot parse a date time interval from the string [%1]." and for numbers
+    /// out of range; what was listed before stays listed.
     void parseDay(int day, const std::string& intervals);
 
+    /// A copy of the matrix so far.
     DayHourMatrix getMatrix() const { return m_matrix; }
 
 private:

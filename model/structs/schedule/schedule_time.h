@@ -15,6 +15,7 @@ namespace zelplatform::model::structs
 class ZELMODEL_API CScheduleTime
 {
 public:
+    /// Any numbers.
     CScheduleTime(unsigned long hours, unsigned long minutes) noexcept;
 
     /// Reads "HH:MM"; each part is a decimal number of 32 bits without further range check. The flag plays no part.
@@ -25,6 +26,7 @@ public:
     /// from UnixTime. ..." when the hours or minutes do not fit into 0..255.
     static CScheduleTime FromUnixTime(long seconds);
 
+    /// Stores any numbers.
     void Set(unsigned long hours, unsigned long minutes) noexcept;
     void SetHours(unsigned long hours) noexcept;
     void SetMinutes(unsigned long minutes) noexcept;

@@ -27,40 +27,50 @@ public:
     /// month.
     CStartJobScheduleOptions(bool enabled, std::optional<CScheduleCalendar> calendar);
 
-    /// Hours and minutes are checked by the calendar. The failures begin with "CStartJobScheduleOptions: Failed set".
+    /// At a time of day, hours 0..23 and minutes 0..59, on days as CScheduleCalendar takes them. The failures begin
+    /// with "CStartJobScheduleOptions: Failed set".
     void SetWeekly(std::uint8_t hours, std::uint8_t minutes, const CWeekMask& weekMask);
     void SetMonthly(std::uint8_t hours, std::uint8_t minutes, EWeekDayNumber::type weekDayNumber,
                     datetime::EDayOfWeek::type dayOfWeek, const CMonthMask& monthMask);
     void SetMonthlyOnDay(std::uint8_t hours, std::uint8_t minutes, const CDayOfMonth& dayOfMonth,
                          const CMonthMask& monthMask);
 
-    /// The length of the period; 0:00 is stored as 24:00.
+    /// The length of the period, at most 24 hours and 59 minutes; 0:00 is stored as 24:00.
     void SetPeriodically(std::uint8_t hours, std::uint8_t minutes);
+
+    /// One run after the other.
     void SetContinuously();
 
     /// Every day at 00:30.
     void SetDefaultWeekly();
 
-    /// Stores the day, then the week-day number Every. For a calendar that is not monthly the second step fails and the
-    /// day stays changed, on purpose.
+    /// Stores the day, 1..31 or the last one, then the week-day number Every. For a calendar that is not monthly the
+    /// second step fails and the day stays changed, on purpose.
     void SetDayOfMonth(unsigned long day);
     void SetDayOfMonthLast();
 
+    /// As CScheduleCalendar::SetWeekDayNumber, for a monthly calendar only. The reset stores Every.
     void SetWeekDayNumber(EWeekDayNumber::type weekDayNumber);
     void ResetWeekDayNumber();
 
     /// SetDefaultWeekly, then disabled.
     void Reset();
 
+    /// Whether the job starts by itself; the calendar stays.
     void SetEnabled(bool enabled) noexcept { m_isEnabled = enabled; }
     void Enable() noexcept { m_isEnabled = true; }
     void Disable() noexcept { m_isEnabled = false; }
     bool IsEnabled() const noexcept { return m_isEnabled; }
     bool IsDisabled() const noexcept { return !m_isEnabled; }
 
+    /// The calendar itself; what is changed in it is not checked.
     const CScheduleCalendar& GetCalendar() const noexcept { return m_calendar; }
     CScheduleCalendar& GetCalendar() noexcept { return m_calendar; }
+
+    /// The time of day or period; throws std::bad_optional_access when there is none.
     const CScheduleTime& GetTime() const { return m_calendar.GetTime(); }
+
+    /// As of the calendar.
     const CWeekMask& GetWeekMask() const noexcept { return m_calendar.GetWeekMask(); }
     const CMonthMask& GetMonthMask() const noexcept { return m_calendar.GetMonthMask(); }
     const CDayOfMonth& GetDayOfMonth() const noexcept { return m_calendar.GetDayOfMonth(); }
@@ -82,6 +92,7 @@ public:
     }
     friend bool operator!=(const CStartJobScheduleOptions& a, const CStartJobScheduleOptions& b) { return !(a == b); }
 
+    /// As CScheduleCalendar::ToLogStr, whether enabled or not.
     std::string ToLogStr(bool shortNames) const;
 
     /// Adds the child "Schedule". Throws "CStartJobScheduleOptions: Failed to serialize to Xml. ...".

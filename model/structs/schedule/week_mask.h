@@ -15,7 +15,10 @@ namespace zelplatform::model::structs
 class ZELMODEL_API CWeekMask
 {
 public:
+    /// All seven days on or off.
     explicit CWeekMask(bool on);
+
+    /// These flags, whatever their number.
     explicit CWeekMask(std::vector<bool> mask) noexcept;
     CWeekMask(const CWeekMask&) = default;
     CWeekMask(CWeekMask&&) noexcept = default;
@@ -32,11 +35,13 @@ public:
     /// As FromStringVector, of a text split at the separator. Throws "WeekMask: Failed to convert from string. ...".
     static CWeekMask FromString(const std::string& text, char separator);
 
+    /// All seven days on or off.
     void Reset(bool on);
 
     /// Throws std::out_of_range for a day that the mask does not have.
     void SetDay(datetime::EDayOfWeek::type day, bool on);
 
+    /// The flags, Sunday first.
     const std::vector<bool>& GetMask() const noexcept { return m_mask; }
 
     /// 7.
@@ -48,6 +53,7 @@ public:
     /// Asks for the week day of the current local time.
     bool IsTodayOn() const;
 
+    /// True when every flag is so, or on, or off.
     bool IsAllDays(bool value) const noexcept;
     bool IsAllDaysOn() const noexcept;
     bool IsAllDaysOff() const noexcept;

@@ -17,6 +17,7 @@ namespace zelplatform::model::structs
 /// The proxy of an S3 connection, element "Proxy".
 struct ZELMODEL_API SAmazonS3Proxy
 {
+    /// The address and how to log in there, the password in clear.
     std::string endpoint;
     std::string login;
     std::string password;
@@ -40,11 +41,14 @@ struct ZELMODEL_API SAmazonS3Proxy
 /// Where an S3 storage is reached, element "Endpoint".
 struct ZELMODEL_API SAmazonS3Endpoint
 {
+    /// The address of the service, and the text of "ArnString".
     std::string apiEndpoint;
     std::string arnString;
 
     /// SHA-256 of the server certificate that is accepted, upper-case hexadecimal; may be empty.
     std::string fingerprint;
+
+    /// The proxy on the way, if there is one.
     std::optional<SAmazonS3Proxy> proxy;
 
     /// Empties the texts and removes the proxy.
@@ -69,6 +73,8 @@ struct ZELMODEL_API SAmazonS3Endpoint
 /// The keys, token or role of an S3 storage, element "Credentials".
 struct ZELMODEL_API SAmazonS3Credentials
 {
+    /// The pair of keys, the token of a session that needs one, the role, and the host that gives out its keys. Empty
+    /// when not used.
     std::string accessKeyId;
     std::string secretAccessKey;
     std::string sessionToken;
@@ -100,9 +106,11 @@ struct ZELMODEL_API SAmazonS3Credentials
 /// Endpoint and credentials together, document and element "AmazonS3SpecificParams".
 struct ZELMODEL_API SAmazonS3SpecificParams
 {
+    /// The two halves.
     SAmazonS3Endpoint endpoint;
     SAmazonS3Credentials credentials;
 
+    /// Clears both; the time of the last update stays.
     void Clear();
 
     /// Adds the child to the parent, secrets in clear.

@@ -13,10 +13,13 @@ namespace zelplatform::model::structs
 /// the managing side supplies it.
 struct ZELMODEL_API SObjectStorageImmutabilitySettings
 {
+    /// Whether backups are immutable for a time.
     bool isEnabled = false;
 
     /// How many days a backup stays immutable.
     std::int32_t intervalDays = 0;
+
+    /// Where the period comes from; a document may hold any number.
     ERepositoryImmutabilityMode::type mode = ERepositoryImmutabilityMode::ByRepositorySettings;
 
     /// Off; still with 10 days, on purpose.
@@ -46,12 +49,16 @@ struct ZELMODEL_API SObjectStorageImmutabilitySettings
 /// "DirectBackupImmutabilitySettings". Read only.
 struct ZELMODEL_API SDirectBackupImmutabilitySettings
 {
+    /// The settings of the repository itself.
     SObjectStorageImmutabilitySettings immutabilitySettings;
 
     /// Days after which backups move to the tier; 0 when not given.
     std::int32_t numberDaysForCapacityTierMoveOrArchiveTier = 0;
+
+    /// Whether the repository has a capacity or archive tier extent that is itself immutable.
     bool hasImmutableCapacityOrArchiveTierExtent = false;
 
+    /// SObjectStorageImmutabilitySettings::CreateDisabled and no tier.
     static SDirectBackupImmutabilitySettings CreateDisabled();
 
     /// True when the node has the child.

@@ -6,6 +6,7 @@
 #include <zelplatform/export.h>
 #include <zelplatform/guid/guid.h>
 
+/// Clients of cloud repositories.
 namespace cloudbackuplib
 {
 
@@ -14,11 +15,14 @@ class ZELPLATFORM_API CCloudRepoClientId
 {
 public:
     CCloudRepoClientId() = default;
+
+    /// The two parts, unchecked.
     explicit CCloudRepoClientId(const guid::guid_t& id, std::string companion = {})
         : m_companion(std::move(companion)), m_guid(id)
     {
     }
 
+    /// The two parts.
     const guid::guid_t& GetGuid() const noexcept { return m_guid; }
     const std::string& GetCompanion() const noexcept { return m_companion; }
 

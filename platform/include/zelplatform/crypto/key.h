@@ -13,6 +13,7 @@ namespace crypto
 class ZELPLATFORM_API CKey
 {
 public:
+    /// The most bytes that a key may have.
     static constexpr std::size_t MaxSize = 65536;
 
     /// Throws when there are more than 65536 bytes.
@@ -24,6 +25,7 @@ public:
     /// Throws when no key can have that many bytes.
     static void CheckSize(std::size_t size);
 
+    /// The bytes and their number; they live as long as the key.
     std::size_t size() const noexcept { return m_long.empty() ? m_shortSize : m_long.size(); }
     const char* data() const noexcept { return m_long.empty() ? m_short.data() : m_long.data(); }
 

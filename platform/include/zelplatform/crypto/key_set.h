@@ -14,6 +14,7 @@
 #include <zelplatform/lin/lin.h>
 #include <zelplatform/util/unicode.h>
 
+/// Keys, and memory that is erased when it is released.
 namespace crypto
 {
 
@@ -22,12 +23,14 @@ namespace crypto
 class ZELPLATFORM_API CKeySet
 {
 public:
+    /// The most keys that a set may have.
     static constexpr std::size_t MaxKeys = 4096;
 
     /// Throws for more than 4096 keys, for an empty pointer among them and for nanoseconds above 999,999,999.
     CKeySet(const CKeySetId& id, ECryptAlgs alg, EKeySetUsageRole role, CUniString hint,
             lin::lin_filetime_t creationTime, std::vector<std::shared_ptr<CKey>> keys);
 
+    /// What the constructor was given.
     const CKeySetId& GetId() const noexcept { return m_id; }
     ECryptAlgs GetAlg() const noexcept { return m_alg; }
     EKeySetUsageRole GetUsageRole() const noexcept { return m_role; }
@@ -35,6 +38,7 @@ public:
     /// What helps a person to remember the password. Not for logs.
     const CUniString& GetHint() const noexcept { return m_hint.get(); }
 
+    /// When the set was made, and its keys in their order.
     lin::lin_filetime_t GetCreationTime() const noexcept { return m_creationTime; }
     const std::vector<std::shared_ptr<CKey>>& GetKeys() const noexcept { return m_keys; }
 

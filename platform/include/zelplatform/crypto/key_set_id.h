@@ -15,6 +15,7 @@ namespace crypto
 class ZELPLATFORM_API CKeySetId
 {
 public:
+    /// The most bytes that an identifier may have.
     static constexpr std::size_t MaxSize = 64;
 
     CKeySetId() = default;
@@ -25,6 +26,7 @@ public:
     /// Throws when no identifier can have that many bytes.
     static void CheckSize(std::size_t size);
 
+    /// The bytes; they live as long as the identifier.
     std::string_view bytes() const noexcept { return {m_bytes.data(), m_size}; }
 
     /// The bytes as upper-case hexadecimal digits without separators.
@@ -32,6 +34,8 @@ public:
 
     friend bool operator==(const CKeySetId& a, const CKeySetId& b) noexcept { return a.bytes() == b.bytes(); }
     friend bool operator!=(const CKeySetId& a, const CKeySetId& b) noexcept { return !(a == b); }
+
+    /// Byte by byte, as numbers without a sign.
     friend bool operator<(const CKeySetId& a, const CKeySetId& b) noexcept { return a.bytes() < b.bytes(); }
 
 private:

@@ -15,17 +15,21 @@ template <class T>
 class sec_allocator_t
 {
 public:
+    /// What the blocks hold.
     using value_type = T;
 
     sec_allocator_t() noexcept = default;
 
+    /// Of any other type: there is nothing to take over.
     template <class U>
     sec_allocator_t(const sec_allocator_t<U>&) noexcept
     {
     }
 
+    /// A block of so many objects, not erased; throws std::bad_alloc.
     T* allocate(std::size_t count) { return std::allocator<T>().allocate(count); }
 
+    /// Erases the block and gives it back.
     void deallocate(T* block, std::size_t count) noexcept
     {
         util::SecureErase(block, count * sizeof(T));
@@ -58,6 +62,7 @@ public:
     sec_array_t& operator=(const sec_array_t&) = default;
     ~sec_array_t() { util::SecureErase(m_bytes.data(), Size); }
 
+    /// The bytes and their number.
     char* data() noexcept { return m_bytes.data(); }
     const char* data() const noexcept { return m_bytes.data(); }
     static constexpr std::size_t size() noexcept { return Size; }

@@ -8,6 +8,7 @@
 
 struct x509_st;
 
+/// Certificates and private keys, read by OpenSSL.
 namespace crypto::openssl
 {
 

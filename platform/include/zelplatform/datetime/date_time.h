@@ -8,6 +8,7 @@
 #include <zelplatform/datetime/names.h>
 #include <zelplatform/export.h>
 
+/// Dates, times of day, and the clock.
 namespace datetime
 {
 
@@ -62,6 +63,8 @@ public:
     /// of which many may be none: an exception takes far longer than reading.
     static std::string faultOf(int year, int month, int day, int hours, int minutes, int seconds);
 
+    /// Each sets one field and leaves the others; throws as setDate and setTime do, also when the day is not in the new
+    /// month.
     void setYear(int year);
     void setMonth(int month);
     void setDay(int day);
@@ -72,11 +75,13 @@ public:
     /// Wall-clock seconds since 1970-01-01 00:00:00, of a local reading too.
     long toUnixTime() const noexcept { return m_seconds; }
 
+    /// The flag as it was given.
     bool isUtcTime() const noexcept { return m_isUtc; }
 
     /// Year, month 1..12 and day of month.
     void getDate(int& year, int& month, int& day) const;
 
+    /// The fields: the year 1400..9999, the day of month 1..31, the hour 0..23, minute and second 0..59.
     int year() const;
     unsigned day() const;
     int hour() const noexcept;
@@ -86,6 +91,7 @@ public:
     /// The month counted from 0, as masks are indexed; getDate counts from 1.
     EMonth::type getMonth() const;
 
+    /// The week day, Sunday 0.
     EDayOfWeek::type getDayOfWeek() const noexcept;
 
     /// The number of days of the date's month, 28..31.
@@ -100,6 +106,7 @@ public:
     /// Formats the wall clock as strftime does in the "C" locale; the year always has four digits.
     std::string toStdString(std::string_view format) const;
 
+    /// By the wall clock alone.
     friend bool operator==(const CDateTime& a, const CDateTime& b) noexcept { return a.m_seconds == b.m_seconds; }
     friend bool operator!=(const CDateTime& a, const CDateTime& b) noexcept { return a.m_seconds != b.m_seconds; }
     friend bool operator<(const CDateTime& a, const CDateTime& b) noexcept { return a.m_seconds < b.m_seconds; }

@@ -9,8 +9,10 @@ namespace datetime
 class ZELPLATFORM_API CTimeSpan
 {
 public:
+    /// So many seconds.
     explicit CTimeSpan(long seconds) noexcept : m_seconds(seconds) {}
 
+    /// The seconds, with their sign.
     long getTotalSeconds() const noexcept { return m_seconds; }
 
     /// Splits the duration. Hours are the total, not the rest of a day; every part carries the sign.

@@ -25,6 +25,7 @@ public:
     CRuntimeExc(const std::string& format, const std::string& a1, const std::string& a2);
     CRuntimeExc(const std::string& format, const std::string& a1, const std::string& a2, const std::string& a3);
 
+    /// Share the message.
     CRuntimeExc(const CRuntimeExc& other) noexcept;
     CRuntimeExc& operator=(const CRuntimeExc& other) noexcept;
     ~CRuntimeExc() override;

@@ -48,6 +48,8 @@ public:
 
     friend bool operator==(const guid_t& a, const guid_t& b) noexcept { return a.m_bytes == b.m_bytes; }
     friend bool operator!=(const guid_t& a, const guid_t& b) noexcept { return !(a == b); }
+
+    /// In the order of the texts.
     friend bool operator<(const guid_t& a, const guid_t& b) noexcept
     {
         const auto high = a.half(0);

@@ -18,11 +18,13 @@ namespace io
 class ZELPLATFORM_API binary_stream_tt
 {
 public:
+    /// Over the device, from where it stands.
     explicit binary_stream_tt(io_dev_redirector_t& device) noexcept : m_device(device) {}
 
+    /// The device that the constructor was given.
     io_dev_redirector_t& device() const noexcept { return m_device; }
 
-    /// Raw bytes, in one call of the device.
+    /// Raw bytes, in one call of the device. Throws with both counts when it takes or gives another number of bytes.
     void write(const void* data, unsigned long size);
     void read(void* data, unsigned long size);
 
@@ -42,7 +44,8 @@ private:
     io_dev_redirector_t& m_device;
 };
 
-/// A bool is one byte, 0 or 1.
+/// Writes the value: a number in its width, a bool as one byte, 0 or 1, a text or a buffer behind its length in 4
+/// bytes. Throws when the device takes less or a length needs more than 32 bits.
 ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, bool value);
 ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, std::uint8_t value);
 ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, std::int32_t value);
@@ -52,7 +55,8 @@ ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, std::uint
 ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, const std::string& text);
 ZELPLATFORM_API binary_stream_tt& operator<<(binary_stream_tt& stream, const crypto::sec_buffer_t& bytes);
 
-/// Any byte but 0 is true.
+/// Reads what << writes; any byte but 0 is a true bool. Throws when the device gives less, and leaves the value as it
+/// was.
 ZELPLATFORM_API binary_stream_tt& operator>>(binary_stream_tt& stream, bool& value);
 ZELPLATFORM_API binary_stream_tt& operator>>(binary_stream_tt& stream, std::uint8_t& value);
 ZELPLATFORM_API binary_stream_tt& operator>>(binary_stream_tt& stream, std::int32_t& value);

@@ -2,6 +2,7 @@
 
 #include <zelplatform/export.h>
 
+/// Devices and binary streams over them.
 namespace io
 {
 

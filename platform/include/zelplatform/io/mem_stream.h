@@ -14,7 +14,10 @@ namespace io
 class ZELPLATFORM_API mem_stream_tt : public io_dev_redirector_t
 {
 public:
+    /// Empty.
     mem_stream_tt();
+
+    /// Holds these bytes, to be read from the front.
     explicit mem_stream_tt(crypto::sec_buffer_t bytes) noexcept;
     ~mem_stream_tt() override;
 

@@ -6,6 +6,7 @@
 
 #include <zelplatform/export.h>
 
+/// Addresses in networks.
 namespace io::net
 {
 
@@ -16,6 +17,7 @@ public:
     /// Throws when the host is empty or holds ';', a square bracket, a blank or a control character.
     CNetworkEndpoint(std::string host, std::uint16_t port);
 
+    /// What the constructor was given.
     const std::string& GetHost() const noexcept { return m_host; }
     std::uint16_t GetPort() const noexcept { return m_port; }
 

@@ -5,6 +5,7 @@
 
 #include <zelplatform/export.h>
 
+/// Log sections, and the sinks that they write to.
 namespace logging
 {
 
@@ -15,6 +16,8 @@ class ZELPLATFORM_API ILogSection
 public:
     virtual ~ILogSection();
 
+    /// Writes a text, an exception's message, or a format whose "%1" is a1 with that message behind it, at the level of
+    /// the name.
     virtual void info(const std::string& text) = 0;
     virtual void warn(const std::string& text) = 0;
     virtual void warn(const std::string& format, const std::string& a1, const std::exception& cause) = 0;
@@ -27,6 +30,7 @@ public:
 class ZELPLATFORM_API log_section_t : public ILogSection
 {
 public:
+    /// The name that every entry carries.
     explicit log_section_t(std::string name);
     ~log_section_t() override;
 

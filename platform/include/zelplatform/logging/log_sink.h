@@ -8,6 +8,7 @@
 namespace logging
 {
 
+/// How grave an entry is.
 enum class ELevel : int
 {
     Info,
@@ -18,6 +19,8 @@ enum class ELevel : int
 /// One log entry: the name of the section that wrote it, its level and its text.
 struct Entry
 {
+    /// The parts as the section wrote them; the text may quote outside texts of any length, control characters
+    /// included.
     std::string section;
     ELevel level = ELevel::Info;
     std::string text;
@@ -29,6 +32,7 @@ struct ZELPLATFORM_API ILogSink
 {
     virtual ~ILogSink();
 
+    /// Takes one entry, complete when it returns.
     virtual void write(const Entry& entry) = 0;
 };
 

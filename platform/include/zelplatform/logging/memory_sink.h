@@ -13,14 +13,17 @@ namespace logging
 class ZELPLATFORM_API memory_sink : public ILogSink
 {
 public:
+    /// Without entries.
     memory_sink();
     ~memory_sink() override;
 
+    /// Appends a copy; safe from several threads.
     void write(const Entry& entry) override;
 
     /// A copy of the entries written so far.
     std::vector<Entry> entries() const;
 
+    /// Forgets them.
     void clear();
 
 private:

@@ -9,6 +9,7 @@
 #include <zelplatform/datetime/date_time.h>
 #include <zelplatform/export.h>
 
+/// Arguments of commands.
 namespace mivo
 {
 
@@ -26,14 +27,17 @@ public:
     /// All or nothing.
     CMivoCommandArgs& operator=(const CMivoCommandArgs& other) { return *this = CMivoCommandArgs(other); }
 
+    /// Each stores the value under the key, whatever was there.
     void SetString(std::string_view key, std::string value);
     void SetUInt64(std::string_view key, unsigned long value);
 
     /// Keeps the seconds and the UTC flag.
     void SetDateTime(std::string_view key, const datetime::CDateTime& value);
 
+    /// True when the key has a value of any type.
     bool Has(std::string_view key) const;
 
+    /// The value; throws "Argument [%1] is not found." and "Argument [%1] has another type.".
     std::string GetString(std::string_view key) const;
     unsigned long GetUInt64(std::string_view key) const;
     datetime::CDateTime GetDateTime(std::string_view key) const;

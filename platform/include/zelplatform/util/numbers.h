@@ -44,16 +44,19 @@ std::string toStr(T value)
         return detail::decimalText(static_cast<unsigned long>(value));
 }
 
+/// A text is itself, so that templates can convert everything.
 inline std::string toStr(const std::string& text)
 {
     return text;
 }
 
+/// A text is itself.
 inline std::string toStr(std::string_view text)
 {
     return std::string(text);
 }
 
+/// A text is itself; the pointer must not be empty.
 inline std::string toStr(const char* text)
 {
     return text;
@@ -119,16 +122,19 @@ T fromStr(std::string_view text)
     }
 }
 
+/// fromStr<int>: a whole decimal number of 32 bits, else it throws.
 inline int str_to_int(std::string_view text)
 {
     return fromStr<int>(text);
 }
 
+/// fromStr<unsigned>: without sign, else it throws.
 inline unsigned str_to_uint(std::string_view text)
 {
     return fromStr<unsigned>(text);
 }
 
+/// fromStr<bool>, else it throws.
 inline bool str_to_bool(std::string_view text)
 {
     return fromStr<bool>(text);

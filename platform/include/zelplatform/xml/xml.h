@@ -5,6 +5,7 @@
 #include <zelplatform/export.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+/// Documents as callers of the model hand them over: other names of xmlpp's.
 namespace xml
 {
 

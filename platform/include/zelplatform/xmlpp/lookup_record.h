@@ -23,6 +23,7 @@ enum class ELookup
 /// One question of a reader.
 struct SLookup
 {
+    /// What was asked for.
     ELookup kind;
     CXmlNode node;    ///< the element, or the document, that was asked
     std::string name; ///< the name that was looked for; empty where none is
@@ -36,11 +37,13 @@ struct SLookup
 class ZELPLATFORM_API CLookupRecord
 {
 public:
+    /// Begins the record; it ends with the object.
     CLookupRecord();
     ~CLookupRecord();
     CLookupRecord(const CLookupRecord&) = delete;
     CLookupRecord& operator=(const CLookupRecord&) = delete;
 
+    /// The questions so far.
     const std::vector<SLookup>& GetLookups() const noexcept { return m_lookups; }
 
 private:
@@ -56,6 +59,7 @@ private:
 class ZELPLATFORM_API CLookupPause
 {
 public:
+    /// Begins the pause; it ends with the object.
     CLookupPause() noexcept;
     ~CLookupPause();
     CLookupPause(const CLookupPause&) = delete;

@@ -6,6 +6,7 @@
 #include <zelplatform/export.h>
 #include <zelplatform/xmlpp/xml_node.h>
 
+/// XML documents and their nodes.
 namespace xmlpp
 {
 
@@ -38,6 +39,7 @@ public:
     /// tabs in values are written as references, so that they read back unchanged.
     std::string Serialize(bool withDeclaration = false) const;
 
+    /// Appends a new top-level element.
     CXmlNode AddRootNode(CXmlName name);
 
     /// The first top-level element; throws when there is none.

@@ -10,9 +10,11 @@ namespace xmlpp
 class CXmlName
 {
 public:
+    /// The terminated text; it is not copied.
     CXmlName(const char* text) noexcept : m_text(text) {}
     CXmlName(const std::string& text) noexcept : m_text(text.c_str()) {}
 
+    /// The text as it was given.
     const char* c_str() const noexcept { return m_text; }
 
 private:

@@ -35,6 +35,7 @@ enum class EInt64Form
 /// An attribute as it stands.
 struct SXmlAttribute
 {
+    /// The texts as they stand in the document, which they point into.
     std::string_view name;
     std::string_view value;
     int line; ///< the line of the text at which it starts; 0 for one that was built in memory
@@ -97,7 +98,7 @@ public:
     /// The attribute's text as it stands; "Attribute [%1] is not found in [%2]." when there is none.
     std::string_view GetAttribute(CXmlName name) const;
 
-    /// "true" or "false" in any letter case, "1" or "0".
+    /// "true" or "false" in any letter case, "1" or "0". Throws for any other text, as all these getters do.
     bool GetBoolAttribute(CXmlName name) const;
 
     /// A decimal number without sign.
@@ -106,8 +107,10 @@ public:
     /// A decimal number; see EInt64Form.
     long GetInt64Attribute(CXmlName name, EInt64Form form = EInt64Form::Strict) const;
 
+    /// A GUID as guid_t::FromAStr reads it; the empty text is the zero GUID.
     guid::guid_t GetGuidAttribute(CXmlName name) const;
 
+    /// A date as CDateTime::fromString reads it.
     datetime::CDateTime GetDateTimeAttribute(CXmlName name, std::string_view format, bool isUtc) const;
 
     /// All direct text and CDATA of the element, joined and trimmed.
@@ -164,11 +167,15 @@ private:
 class ZELPLATFORM_API CXmlNodeRange
 {
 public:
+    /// A place in the range, for range-based loops.
     class ZELPLATFORM_API iterator
     {
     public:
+        /// The element here.
         const CXmlNode& operator*() const noexcept { return m_current; }
         const CXmlNode* operator->() const noexcept { return &m_current; }
+
+        /// Goes on to the next element; not beyond the end.
         iterator& operator++();
         bool operator!=(const iterator& other) const noexcept;
 
@@ -181,6 +188,7 @@ public:
         const char* m_name;
     };
 
+    /// The first element and the place behind the last.
     iterator begin() const;
     iterator end() const;
 
