@@ -13,7 +13,8 @@ shell_packages=(bash zsh fish groff-base mandoc python3)
 abi_packages=(abigail-tools)
 picture_packages=(chromium fonts-liberation poppler-utils python3-pil)
 python_packages=(python3 python3-dev pybind11-dev python3-pytest mypy)
-package_packages=(debhelper dpkg-dev lintian dh-python python3-dev pybind11-dev)
+package_packages=(debhelper dpkg-dev lintian dh-python python3-dev pybind11-dev doxygen)
+reference_packages=(doxygen python3)
 
 # build PRESET [TARGET...]: configures and builds; without targets everything.
 build() {
@@ -58,5 +59,5 @@ own_files() {
     for extension in "$@"; do
         names+=(-o -name "*.$extension")
     done
-    find include model platform tools python tests bench fuzz -type f \( "${names[@]:1}" \) 2>/dev/null | sort
+    find include model platform tools python tests bench fuzz docs -type f \( "${names[@]:1}" \) 2>/dev/null | sort
 }

@@ -1,0 +1,30 @@
+# The examples of docs/reference: each is compiled as the rest of the project is, and ctest compares all that it prints.
+# As a script, cmake -DPROGRAM=... -DEXPECTED=... -P: runs one.
+if(CMAKE_SCRIPT_MODE_FILE)
+    execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
+    file(READ ${EXPECTED} expected)
+    if(NOT result EQUAL 0 OR NOT errors STREQUAL "" OR NOT output STREQUAL expected)
+        message(FATAL_ERROR "${PROGRAM} ended with ${result}.\nIt printed:\n${output}${errors}\nExpected:\n${expected}")
+    endif()
+    return()
+endif()
+
+include(emulation)
+
+function(zel_add_reference_examples)
+    set(script ${PROJECT_SOURCE_DIR}/cmake/reference_examples.cmake)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/reference/examples/*.cpp)
+    foreach(source IN LISTS sources)
+        get_filename_component(family ${source} NAME_WE)
+        set(target reference_example_${family})
+        add_executable(${target} ${source})
+        target_link_libraries(${target} PRIVATE zelmodel_lib)
+        target_compile_options(${target} PRIVATE -O0)
+        zel_enable_warnings(${target})
+        zel_add_emulation(${target})
+        zel_program_path(program ${target})
+        string(REGEX REPLACE "cpp$" "txt" expected ${source})
+        add_test(NAME reference_examples.${family}
+            COMMAND ${CMAKE_COMMAND} -DPROGRAM=${program} -DEXPECTED=${expected} -P ${script})
+    endforeach()
+endfunction()
