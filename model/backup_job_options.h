@@ -65,25 +65,33 @@ struct ZELMODEL_API SBackupJobOptions
     /// string [%1] failed. ...".
     static SBackupJobOptions fromStr(const std::string& text);
 
-    /// The compression and the block size of the backup.
+    /// How the backup is compressed.
     BackupJobCompression::type compression = BackupJobCompression::Default;
+
+    /// The size of its blocks.
     KbBlockSize::type blockSize;
 
-    /// Whether maxPoints or maxDays counts. The two are what the setters check, 1..730; a document may hold more.
+    /// Whether maxPoints or maxDays counts.
     ERetentionType::type retentionType = ERetentionType::Days;
+
+    /// The numbers that the setters check, 1..730; a document may hold more.
     unsigned long maxPoints = 7;
     unsigned long maxDays = 7;
 
     /// When set, data of machines that vanished from the job is kept so many days.
     std::optional<unsigned long> deletedVmDataRetentionDays;
 
-    /// Whether the backup is deduplicated, and from what it is taken.
+    /// Whether the backup is deduplicated.
     bool dedupEnabled = true;
+
+    /// Whether it is taken from a snapshot.
     ESnapshotMode::type snapshotMode = ESnapshotMode::SnapshotRequired;
 
-    /// Commands before the freeze and after the thaw, and whether their failures are ignored.
+    /// Commands before the freeze and after the thaw.
     std::string preFreezeCommand;
     std::string postThawCommand;
+
+    /// Whether failures of the two are ignored.
     std::optional<bool> ignoreFreezeThawFailures;
 
     /// Time-out of the freeze and thaw scripts, carried unchanged.

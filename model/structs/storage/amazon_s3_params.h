@@ -41,8 +41,10 @@ struct ZELMODEL_API SAmazonS3Proxy
 /// Where an S3 storage is reached, element "Endpoint".
 struct ZELMODEL_API SAmazonS3Endpoint
 {
-    /// The address of the service, and the text of "ArnString".
+    /// The address of the service.
     std::string apiEndpoint;
+
+    /// The provider's resource name of the storage; may be empty.
     std::string arnString;
 
     /// SHA-256 of the server certificate that is accepted, upper-case hexadecimal; may be empty.
@@ -73,11 +75,14 @@ struct ZELMODEL_API SAmazonS3Endpoint
 /// The keys, token or role of an S3 storage, element "Credentials".
 struct ZELMODEL_API SAmazonS3Credentials
 {
-    /// The pair of keys, the token of a session that needs one, the role, and the host that gives out its keys. Empty
-    /// when not used.
+    /// The pair of keys, the secret one in clear.
     std::string accessKeyId;
     std::string secretAccessKey;
+
+    /// The token of a temporary session; may be empty.
     std::string sessionToken;
+
+    /// The role whose credentials are fetched, and the host that serves them; both may be empty.
     std::string roleName;
     std::string metadataHost;
 
