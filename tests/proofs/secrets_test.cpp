@@ -31,6 +31,8 @@ struct SecretInput
     std::string reader;
     std::string input;
     Texts canaries;
+
+    friend void PrintTo(const SecretInput& shown, std::ostream* out) { *out << shown.reader; }
 };
 
 std::string pieceOf(const std::string& canary, std::size_t at)
