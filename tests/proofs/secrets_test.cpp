@@ -1,4 +1,7 @@
 #include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
