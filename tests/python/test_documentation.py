@@ -10,10 +10,11 @@ import zelmodel
 from support import ROOT
 
 
-def test_the_page_shows_what_happens(monkeypatch: pytest.MonkeyPatch) -> None:
+@pytest.mark.parametrize(("page", "least"), [("docs/python.md", 5), ("README.md", 3)])
+def test_the_page_shows_what_happens(page: str, least: int, monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.chdir(ROOT)
-    result = doctest.testfile(str(ROOT / "docs/python.md"), module_relative=False)
-    assert result.attempted >= 5
+    result = doctest.testfile(str(ROOT / page), module_relative=False)
+    assert result.attempted >= least
     assert result.failed == 0
 
 
