@@ -53,6 +53,16 @@ step() {
     printf '== %s: %d s\n' "$name" $((SECONDS - begin))
 }
 
+# project_version: as CMakeLists.txt, its one place, has it.
+project_version() {
+    sed -nE 's/^project\(ZelModelLib VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt
+}
+
+# expect WHAT WANTED FOUND: ends the script when they differ.
+expect() {
+    [ "$2" = "$3" ] || { printf '%s\nexpected: %s\n   found: %s\n' "$1" "$2" "$3" >&2; exit 1; }
+}
+
 # own_files EXTENSION...: our sources below the folders that hold C++.
 own_files() {
     local names=() extension

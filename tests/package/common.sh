@@ -1,19 +1,12 @@
 # Sourced by the tests of installed libraries, with the folder that each may use as its first argument.
-set -euo pipefail
-export LC_ALL=C.UTF-8
 work=$(mkdir -p "$1" && cd "$1" && pwd)
 rm -rf "${work:?}"/*
-cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
+. "$(dirname "${BASH_SOURCE[0]}")/../../scripts/common.sh"
 example=$PWD/examples/nightly-file-server.xml
 answer="14 days are kept; starts: Every day at 22 hours 30 minutes"
 
 quietly() {
     "$@" >"$work/log" 2>&1 || { cat "$work/log" >&2; echo "failed: $*" >&2; exit 1; }
-}
-
-# expect WHAT WANTED FOUND
-expect() {
-    [ "$2" = "$3" ] || { printf '%s\nexpected: %s\n   found: %s\n' "$1" "$2" "$3" >&2; exit 1; }
 }
 
 # shown LANGUAGE: the one block of the language in the README.
@@ -25,7 +18,7 @@ shown() {
 # and catches the library's exceptions. An empty prefix is the system's own.
 use_library() {
     local prefix=$1 folder=$work/use version call
-    version=$(sed -nE 's/^project\(ZelModelLib VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
+    version=$(project_version)
     mkdir -p "$folder/by_cmake"
     cp docs/first_program.cpp "$folder/by_cmake"
     shown cmake >"$folder/by_cmake/CMakeLists.txt"
