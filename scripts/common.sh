@@ -1,6 +1,7 @@
-# Sourced by the commands: where we are, what every build needs, how to build a preset and how to time a step.
+# Sourced by the commands: where we are and what is made, what every build needs, how to build a preset and how to time a step.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+mkdir -p build
 export LC_ALL=C.UTF-8
 
 library_packages=(
@@ -20,7 +21,6 @@ reference_packages=(doxygen python3)
 build() {
     local preset=$1 log
     shift
-    mkdir -p build
     log=build/$preset.configure.log
     # The packed parser is not instrumented.
     [ "$preset" != asan ] || scripts/source_package tinyxml2 build/sources/tinyxml2
