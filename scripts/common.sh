@@ -1,4 +1,4 @@
-# Sourced by the commands: where we are and what is made, what every build needs, how to build a preset and how to time a step.
+# Sourced by the commands: where we are, what every build needs, how to build a preset and how to time a step.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 mkdir -p build
