@@ -63,6 +63,11 @@ expect() {
     [ "$2" = "$3" ] || { printf '%s\nexpected: %s\n   found: %s\n' "$1" "$2" "$3" >&2; exit 1; }
 }
 
+# passed_tests FILE...: how many tests passed, as the outputs of test programs tell.
+passed_tests() {
+    cat "$@" | sed -nE 's/^\[  PASSED  \] ([0-9]+) tests?\.$/\1/p' | awk '{ sum += $1 } END { print sum + 0 }'
+}
+
 # own_files EXTENSION...: our sources below the folders that hold C++.
 own_files() {
     local names=() extension
